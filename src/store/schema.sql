@@ -1,0 +1,1 @@
+-- Tables of the VRT database (SQLite 3). Text widths are checked as the old engine refused longer text.
