@@ -1,4 +1,6 @@
+#include "shell/Main.h"
 #include "shell/MsgBox.h"
+#include "shell/frmVRTPLN.h"
 #include "widgets/MessageBoxHandler.h"
 
 #include <QApplication>
@@ -6,6 +8,11 @@
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("VRT"));
+    QApplication::setOrganizationName(QStringLiteral("VRT"));
     InstalaManipuladorMsg(ShowMessageBox);
-    return 0;
+    Execucao run = Main(QApplication::applicationDirPath());
+    if (!run.iniciada())
+        return 1;
+    return app.exec();
 }

@@ -10,6 +10,8 @@ public:
     explicit TelaFilha(QWidget* parent = nullptr) : QWidget(parent) {}
     // The numbered action the main window's command hands over (0 open, 1 eliminate, ... as each screen defines).
     virtual void FuncaoForm(int funcao) { Q_UNUSED(funcao); }
-    // The editors re-read their grids after the main window's Salvar.
+    // The editors re-read their grids after the main window's Salvar, and check and store their general data.
     virtual void RepopulaGrids() {}
+    virtual bool ValidaDadosGerais() { return true; }
+    virtual void AtualizaDadosGerais() {}
 };

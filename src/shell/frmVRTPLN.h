@@ -1,0 +1,78 @@
+#pragma once
+// The main window: an MDI frame with the declaration, tools and help menus, the toolbar and the three-panel
+// status bar. It holds no logic of its own: each command opens a child screen or hands an action to one.
+#include <QHash>
+#include <QMainWindow>
+#include <functional>
+
+class QAction;
+class QDialog;
+class QLabel;
+class QMdiArea;
+class QMdiSubWindow;
+class QToolBar;
+class TelaFilha;
+
+class frmVRTPLN : public QMainWindow {
+    Q_OBJECT
+public:
+    explicit frmVRTPLN(QWidget* parent = nullptr);
+    ~frmVRTPLN() override;
+
+    // The one main window of the run, or null before it exists and after it is gone.
+    static frmVRTPLN* instancia();
+
+    // The load step: compacts and connects the database, sets the menus and the version panel.
+    // Returns false when the database cannot be used; the window must then not be shown.
+    bool carrega();
+
+    // Menu items and toolbar buttons by their control names ("mnuDeclaracaoAbrir", ...).
+    QAction* acao(const QString& nome) const;
+    QMdiArea* mdiArea() const { return m_mdi; }
+    QLabel* painel(int numero) const;  // 1 to 3
+
+    // Child screens.
+    void abreTela(int tela);
+    void fechaTela();
+    TelaFilha* telaAberta() const;
+    void abreTelaArquivo(const QString& importaTabela, const QString& titulo);
+
+protected:
+    void closeEvent(QCloseEvent* evento) override;
+
+private:
+    void criaMenus();
+    void criaBarraFerramentas();
+    void criaBarraStatus();
+    QAction* novaAcao(const QString& nome, const QString& texto);
+    void salvar();
+    void abreEscolha(int funcao);
+    void novaDeclaracao(int tela, int funcao);
+    void mostraManutencao(const QString& nome, bool& peloMenu);
+    void topicos();
+    void calculadora();
+
+    QMdiArea* m_mdi = nullptr;
+    QToolBar* m_barra = nullptr;
+    QLabel* m_paineis[3] = {nullptr, nullptr, nullptr};
+    QHash<QString, QAction*> m_acoes;
+    QHash<int, QMdiSubWindow*> m_telas;
+};
+
+// The screen routines every child screen calls.
+void AbreTela(int tela);
+void FechaTela();
+void ZeraTelaAtual();
+void HabilitaMenus(bool telaAberta);
+void AtualizaBarraStatus();
+void CentralizaForm(QWidget* principal, QWidget* form);
+void DefinePainelStatus(int painel, const QString& texto);
+QString TextoPainelStatus(int painel);
+
+// Registry of the screens that the commands open, filled by RegistraTelas().
+using FabricaTela = std::function<TelaFilha*()>;
+using FabricaDialogo = std::function<QDialog*(QWidget* pai)>;
+void RegistraTela(int tela, FabricaTela fabrica);
+void RegistraDialogo(const QString& nome, FabricaDialogo fabrica);
+bool TelaRegistrada(int tela);
+void RegistraTelas();
