@@ -32,6 +32,12 @@ bool LocalizaBanco()
         CaminhoDados = CaminhoAplicacao;
         return QFileInfo::exists(entregue);
     }
+    return LocalizaBancoNaPastaDoUsuario();
+}
+
+bool LocalizaBancoNaPastaDoUsuario()
+{
+    const QString entregue = CaminhoAplicacao + QLatin1Char('/') + NomeArquivoBanco;
     const QString dados = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     QDir().mkpath(dados);
     CaminhoDados = dados;

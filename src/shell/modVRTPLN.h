@@ -34,5 +34,7 @@ QString ArquivoBanco();
 // Decides CaminhoDados: the program's folder when it can be written, else the user's data folder, where the
 // delivered database is copied on first use. Returns false when no database can be found there.
 bool LocalizaBanco();
+// The second half of LocalizaBanco: the user's data folder, with the delivered database copied there if missing.
+bool LocalizaBancoNaPastaDoUsuario();
 
 }  // namespace modVRTPLN
