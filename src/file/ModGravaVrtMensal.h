@@ -1,0 +1,36 @@
+#pragma once
+// The monthly reader: turns the item records 11 to 41 of a monthly file into rows of the monthly tables,
+// under the current keys that the earlier records of the file left.
+#include <QString>
+
+class CadastrosLeitura;
+class ComandosPreparados;
+class LinhaRegistro;
+struct EstadoLeitura;
+
+class ModGravaVrtMensal {
+public:
+    ModGravaVrtMensal(EstadoLeitura& estado, ComandosPreparados& comandos, CadastrosLeitura& cadastros);
+    // One line of type `tipo` (one of 11-14, 21, 31-36, 41). False, with its message shown, stops the reading.
+    bool gravaRegistro(const QString& tipo, QString& linha);
+
+private:
+    bool registro11(const LinhaRegistro& r);
+    bool registro12(const LinhaRegistro& r);
+    bool registro13(const LinhaRegistro& r);
+    bool registro14(const LinhaRegistro& r);
+    bool registro21(const LinhaRegistro& r);
+    bool registro31(const LinhaRegistro& r);
+    bool registro32(const LinhaRegistro& r);
+    bool registro33(const LinhaRegistro& r);
+    bool registro34(const LinhaRegistro& r);
+    bool registro35(const LinhaRegistro& r);
+    bool registro36(const LinhaRegistro& r);
+    bool registro41(const LinhaRegistro& r);
+    // The key the engine gave the row just inserted; without one, `mensagem` is shown and the result is false.
+    bool novaChave(QVariant& chave, const QString& mensagem);
+
+    EstadoLeitura& m_estado;
+    ComandosPreparados& m_comandos;
+    CadastrosLeitura& m_cadastros;
+};
