@@ -1,10 +1,13 @@
 #include "TestUtil.h"
 
+#include "shell/frmAbout.h"
 #include "shell/frmVRTPLN.h"
 #include "shell/modVRTPLN.h"
 #include "widgets/TelaFilha.h"
 
 #include <QAction>
+#include <QDir>
+#include <QPushButton>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -89,6 +92,7 @@ private slots:
     void localizarEComoUsarAAjudaNaoFazemNada();
     void fecharComEditorQueRecusaMantemOProgramaAberto();
     void sairComTelaQueAceitaFechaAConexao();
+    void capturasDaJanelaPrincipalEDoSobre();
 };
 
 void tst_frmVRTPLN::menusTemLegendasTeclasDeAcessoESeparadores_data()
@@ -478,6 +482,32 @@ void tst_frmVRTPLN::sairComTelaQueAceitaFechaAConexao()
     QVERIFY(!janela.isVisible());
     QVERIFY(!modBancoDados::Conectado());
     QCOMPARE(TelaAtual, 0);
+}
+
+void tst_frmVRTPLN::capturasDaJanelaPrincipalEDoSobre()
+{
+    BancoTeste banco(false);
+    frmVRTPLN janela;
+    QVERIFY(janela.carrega());
+    janela.resize(900, 600);
+    janela.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&janela));
+    const QString pasta = QStringLiteral(VRT_BINARY_DIR "/capturas");
+    QDir().mkpath(pasta);
+    const QPixmap principal = janela.grab();
+    QCOMPARE(principal.size(), janela.size());
+    QVERIFY(principal.save(pasta + "/frmVRTPLN.png"));
+    frmAbout sobre(&janela);
+    sobre.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&sobre));
+    // Every text of the about box fits in it.
+    for (QLabel* l : sobre.findChildren<QLabel*>())
+        QVERIFY2(l->width() >= l->sizeHint().width() || l->wordWrap(), qPrintable(l->text()));
+    QVERIFY(sobre.grab().save(pasta + "/frmAbout.png"));
+    QCOMPARE(sobre.lblVersion->text(), QStringLiteral("Versão 04.00"));
+    QCOMPARE(sobre.lblDescription->text(), QStringLiteral("Programa gerador de dados para a Vistoria de Remessa Tributada"));
+    QCOMPARE(sobre.lblTitle->text(), QStringLiteral("VRT - Vistoria de Remessa Tributada"));
+    QCOMPARE(sobre.cmdSysInfo->text(), QStringLiteral("&Informações"));
 }
 
 QTEST_MAIN(tst_frmVRTPLN)
