@@ -3,7 +3,7 @@
 #include "file/CadastrosLeitura.h"
 #include "file/ComandosPreparados.h"
 #include "file/EstadoLeitura.h"
-#include "file/LinhaRegistro.h"
+#include "file/RegistroLido.h"
 #include "shell/MsgBox.h"
 
 namespace {
@@ -28,7 +28,7 @@ bool ModGravaVrtIndividual::gravaRegistro(const QString& tipo, QString& linha)
     const LayoutRegistro& layout = LayoutRegistro::de(TipoDeclaracao::Individual, tipo);
     if (!m_estado.confereTamanho(layout, linha))
         return false;
-    const LinhaRegistro r(linha, layout);
+    const RegistroLido r(linha, layout);
     switch (tipo.toInt()) {
     case 11: return registro11(r);
     case 12: return registro12(r);
@@ -55,7 +55,7 @@ bool ModGravaVrtIndividual::novaChave(QVariant& chave, const QString& mensagem)
     return false;
 }
 
-bool ModGravaVrtIndividual::novoItem(const LinhaRegistro& r, const QString& ncm, const QString& modalidade,
+bool ModGravaVrtIndividual::novoItem(const RegistroLido& r, const QString& ncm, const QString& modalidade,
                                      const QString& mensagem)
 {
     m_comandos.executa("INSERT INTO ITEM_NFS (ID_NFS, NR_ITEM_NF_SAIDA, CD_INT_PROD, NM_INT_PROD, CD_NCM_PROD, "
@@ -66,7 +66,7 @@ bool ModGravaVrtIndividual::novoItem(const LinhaRegistro& r, const QString& ncm,
     return novaChave(m_estado.itemAtual, mensagem);
 }
 
-bool ModGravaVrtIndividual::registro11(const LinhaRegistro& r)
+bool ModGravaVrtIndividual::registro11(const RegistroLido& r)
 {
     const QString ncm = r.texto(s("CD_NCM_PROD"));
     if (!m_cadastros.ExisteNcm(ncm))
@@ -86,7 +86,7 @@ bool ModGravaVrtIndividual::registro11(const LinhaRegistro& r)
     // The test looks at positions 110-362 and 368-620, each of which spans an aliquot's digits: true for every
     // record this system writes, false only for a file from elsewhere with blanks there. Kept as it stands.
     const QString& linha = r.linha();
-    if (!LinhaRegistro::soBrancos(linha.mid(109, 253)) || !LinhaRegistro::soBrancos(linha.mid(367, 253))) {
+    if (!RegistroLido::soBrancos(linha.mid(109, 253)) || !RegistroLido::soBrancos(linha.mid(367, 253))) {
         const bool temII = !r.brancos(s("JUST_II_DIF_TEC"));
         const bool temIPI = !r.brancos(s("JUST_IPI_DIF_TIPI"));
         m_comandos.executa("INSERT INTO JUST_DIF_ALIQ_PROD_VRT_IND (ID_ITEM, JUST_II_DIF_TEC, ALIQ_II_DIF_TEC, "
@@ -99,7 +99,7 @@ bool ModGravaVrtIndividual::registro11(const LinhaRegistro& r)
     return true;
 }
 
-bool ModGravaVrtIndividual::registro12(const LinhaRegistro& r)
+bool ModGravaVrtIndividual::registro12(const RegistroLido& r)
 {
     m_comandos.executa(
         "INSERT INTO ITEM_NFA_PE_IND (ID_ITEM, NR_CNPJ_FORNECEDOR, NR_SERIE_NF_AQUIS, NR_NF_AQUIS, NR_ITEM_NF_AQUIS, "
@@ -113,7 +113,7 @@ bool ModGravaVrtIndividual::registro12(const LinhaRegistro& r)
     return true;
 }
 
-bool ModGravaVrtIndividual::registro13(const LinhaRegistro& r)
+bool ModGravaVrtIndividual::registro13(const RegistroLido& r)
 {
     m_comandos.executa("INSERT INTO ITEM_DI_PE_IND (ID_ITEM, NR_DI, NR_DI_ANTIGA, NR_ADICAO_DI, NR_ITEM_ADICAO, "
                        "IND_DL_288_67, IND_OBSOLE_RESIDUO, QT_PROD_UNID_NFS, IND_SUSP_PIS_COFINS) "
@@ -135,7 +135,7 @@ bool ModGravaVrtIndividual::registro13(const LinhaRegistro& r)
     return true;
 }
 
-bool ModGravaVrtIndividual::registro14(const LinhaRegistro& r)
+bool ModGravaVrtIndividual::registro14(const RegistroLido& r)
 {
     m_comandos.executa(
         "INSERT INTO ITEM_DSI_PE_IND (ID_ITEM, NR_DSI, NR_DSI_ANTIGA, NR_BEM, QT_PROD_UNID_NFS, VL_PROD_UNID_PROD, "
@@ -149,7 +149,7 @@ bool ModGravaVrtIndividual::registro14(const LinhaRegistro& r)
     return true;
 }
 
-bool ModGravaVrtIndividual::registro21(const LinhaRegistro& r)
+bool ModGravaVrtIndividual::registro21(const RegistroLido& r)
 {
     m_estado.nomeLido = r.texto(s("NM_INT_PROD"));
     if (!m_cadastros.RegistraProduto(r.aparado(s("CD_INT_PROD")), m_estado.nomeLido))
@@ -186,7 +186,7 @@ bool ModGravaVrtIndividual::registro21(const LinhaRegistro& r)
     return true;
 }
 
-bool ModGravaVrtIndividual::registro31(const LinhaRegistro& r)
+bool ModGravaVrtIndividual::registro31(const RegistroLido& r)
 {
     const QString ncm = r.texto(s("CD_NCM_PROD"));
     if (!m_cadastros.ExisteNcm(ncm))
@@ -204,7 +204,7 @@ bool ModGravaVrtIndividual::registro31(const LinhaRegistro& r)
     return true;
 }
 
-bool ModGravaVrtIndividual::registro32(const LinhaRegistro& r)
+bool ModGravaVrtIndividual::registro32(const RegistroLido& r)
 {
     // The product is registered under the name read last: from the second input on that is the previous
     // input's name, written over the product's. This is how the system behaves.
@@ -225,7 +225,7 @@ bool ModGravaVrtIndividual::registro32(const LinhaRegistro& r)
     return novaChave(m_estado.insumoAtual, s("Problema de Gravação no Registro 32 da individual"));
 }
 
-bool ModGravaVrtIndividual::registro33(const LinhaRegistro& r)
+bool ModGravaVrtIndividual::registro33(const RegistroLido& r)
 {
     const QString codigo = r.aparado(s("CD_INT_INSUMO"));
     if (!m_cadastros.RegistraProduto(codigo, m_estado.nomeLido))
@@ -248,7 +248,7 @@ bool ModGravaVrtIndividual::registro33(const LinhaRegistro& r)
     return true;
 }
 
-bool ModGravaVrtIndividual::registro34(const LinhaRegistro& r)
+bool ModGravaVrtIndividual::registro34(const RegistroLido& r)
 {
     m_comandos.executa(
         "INSERT INTO ITEM_NFA_INS_IND (ID_INSUMO, NR_NF_AQUIS, NR_SERIE_NF_AQUIS, NR_ITEM_NF_AQUIS, DT_EMISS_NF_AQUIS, "
@@ -262,7 +262,7 @@ bool ModGravaVrtIndividual::registro34(const LinhaRegistro& r)
     return true;
 }
 
-bool ModGravaVrtIndividual::registro35(const LinhaRegistro& r)
+bool ModGravaVrtIndividual::registro35(const RegistroLido& r)
 {
     m_comandos.executa("INSERT INTO ITEM_DI_INS_IND (ID_INSUMO, NR_DI, NR_ADICAO_DI, NR_ITEM_ADICAO, NR_DI_ANTIGA, "
                        "IND_DL_288_67, IND_SUSP_PIS_COFINS, QT_INSUMO_UNID_NFS) VALUES (?, ?, ?, ?, ?, ?, ?, ?)",
@@ -282,7 +282,7 @@ bool ModGravaVrtIndividual::registro35(const LinhaRegistro& r)
     return true;
 }
 
-bool ModGravaVrtIndividual::registro36(const LinhaRegistro& r)
+bool ModGravaVrtIndividual::registro36(const RegistroLido& r)
 {
     m_comandos.executa(
         "INSERT INTO ITEM_DSI_INS_IND (ID_INSUMO, NR_DSI, NR_BEM, NR_DSI_ANTIGA, IND_SUSP_PIS_COFINS, "
@@ -296,7 +296,7 @@ bool ModGravaVrtIndividual::registro36(const LinhaRegistro& r)
     return true;
 }
 
-bool ModGravaVrtIndividual::registro41(const LinhaRegistro& r)
+bool ModGravaVrtIndividual::registro41(const RegistroLido& r)
 {
     const QString ncm = r.texto(s("CD_NCM_PROD"));
     if (!m_cadastros.ExisteNcm(ncm))

@@ -6,7 +6,7 @@
 
 class CadastrosLeitura;
 class ComandosPreparados;
-class LinhaRegistro;
+class RegistroLido;
 struct EstadoLeitura;
 
 class ModGravaVrtIndividual {
@@ -16,20 +16,20 @@ public:
     bool gravaRegistro(const QString& tipo, QString& linha);
 
 private:
-    bool registro11(const LinhaRegistro& r);
-    bool registro12(const LinhaRegistro& r);
-    bool registro13(const LinhaRegistro& r);
-    bool registro14(const LinhaRegistro& r);
-    bool registro21(const LinhaRegistro& r);
-    bool registro31(const LinhaRegistro& r);
-    bool registro32(const LinhaRegistro& r);
-    bool registro33(const LinhaRegistro& r);
-    bool registro34(const LinhaRegistro& r);
-    bool registro35(const LinhaRegistro& r);
-    bool registro36(const LinhaRegistro& r);
-    bool registro41(const LinhaRegistro& r);
+    bool registro11(const RegistroLido& r);
+    bool registro12(const RegistroLido& r);
+    bool registro13(const RegistroLido& r);
+    bool registro14(const RegistroLido& r);
+    bool registro21(const RegistroLido& r);
+    bool registro31(const RegistroLido& r);
+    bool registro32(const RegistroLido& r);
+    bool registro33(const RegistroLido& r);
+    bool registro34(const RegistroLido& r);
+    bool registro35(const RegistroLido& r);
+    bool registro36(const RegistroLido& r);
+    bool registro41(const RegistroLido& r);
     // The row of ITEM_NFS that every record 11, 21, 31 and 41 begins with; false with `mensagem` without a key.
-    bool novoItem(const LinhaRegistro& r, const QString& ncm, const QString& modalidade, const QString& mensagem);
+    bool novoItem(const RegistroLido& r, const QString& ncm, const QString& modalidade, const QString& mensagem);
     bool novaChave(QVariant& chave, const QString& mensagem);
 
     EstadoLeitura& m_estado;

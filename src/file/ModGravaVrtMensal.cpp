@@ -3,7 +3,7 @@
 #include "file/CadastrosLeitura.h"
 #include "file/ComandosPreparados.h"
 #include "file/EstadoLeitura.h"
-#include "file/LinhaRegistro.h"
+#include "file/RegistroLido.h"
 #include "shell/MsgBox.h"
 
 namespace {
@@ -27,7 +27,7 @@ bool ModGravaVrtMensal::gravaRegistro(const QString& tipo, QString& linha)
     const LayoutRegistro& layout = LayoutRegistro::de(TipoDeclaracao::Mensal, tipo);
     if (!m_estado.confereTamanho(layout, linha))
         return false;
-    const LinhaRegistro r(linha, layout);
+    const RegistroLido r(linha, layout);
     switch (tipo.toInt()) {
     case 11: return registro11(r);
     case 12: return registro12(r);
@@ -54,7 +54,7 @@ bool ModGravaVrtMensal::novaChave(QVariant& chave, const QString& mensagem)
     return false;
 }
 
-bool ModGravaVrtMensal::registro11(const LinhaRegistro& r)
+bool ModGravaVrtMensal::registro11(const RegistroLido& r)
 {
     const QString ncm = r.texto(s("CD_NCM_PRODUTO"));
     if (!m_cadastros.ExisteNcm(ncm))
@@ -106,7 +106,7 @@ bool ModGravaVrtMensal::registro11(const LinhaRegistro& r)
     return true;
 }
 
-bool ModGravaVrtMensal::registro12(const LinhaRegistro& r)
+bool ModGravaVrtMensal::registro12(const RegistroLido& r)
 {
     m_comandos.executa(
         "INSERT INTO ITEM_NFA_PE_MEN (ID_DEST_PRODUTO, NR_CNPJ_FORNECEDOR, NR_SERIE_NF_AQUIS, NR_NF_AQUIS, "
@@ -120,7 +120,7 @@ bool ModGravaVrtMensal::registro12(const LinhaRegistro& r)
     return true;
 }
 
-bool ModGravaVrtMensal::registro13(const LinhaRegistro& r)
+bool ModGravaVrtMensal::registro13(const RegistroLido& r)
 {
     m_comandos.executa("INSERT INTO ITEM_DI_PE_MEN (ID_DEST_PRODUTO, NR_DI, NR_DI_ANTIGA, NR_ADICAO_DI, "
                        "NR_ITEM_ADICAO, IND_DL_288_67, IND_OBSOLE_RESIDUO, IND_SUSP_PIS_COFINS, QT_PROD_UNID_PROD) "
@@ -143,7 +143,7 @@ bool ModGravaVrtMensal::registro13(const LinhaRegistro& r)
     return true;
 }
 
-bool ModGravaVrtMensal::registro14(const LinhaRegistro& r)
+bool ModGravaVrtMensal::registro14(const RegistroLido& r)
 {
     m_comandos.executa(
         "INSERT INTO ITEM_DSI_PE_MEN (ID_DEST_PRODUTO, NR_DSI, NR_DSI_ANTIGA, NR_BEM, QT_PROD_UNID_PROD, "
@@ -157,7 +157,7 @@ bool ModGravaVrtMensal::registro14(const LinhaRegistro& r)
     return true;
 }
 
-bool ModGravaVrtMensal::registro21(const LinhaRegistro& r)
+bool ModGravaVrtMensal::registro21(const RegistroLido& r)
 {
     const QString codigo = r.aparado(s("CD_INT_PRODUTO"));
     const QString nome = r.texto(s("NM_INT_PRODUTO"));
@@ -197,7 +197,7 @@ bool ModGravaVrtMensal::registro21(const LinhaRegistro& r)
     return true;
 }
 
-bool ModGravaVrtMensal::registro31(const LinhaRegistro& r)
+bool ModGravaVrtMensal::registro31(const RegistroLido& r)
 {
     const QString ncm = r.texto(s("CD_NCM_PRODUTO"));
     if (!m_cadastros.ExisteNcm(ncm))
@@ -228,7 +228,7 @@ bool ModGravaVrtMensal::registro31(const LinhaRegistro& r)
     return true;
 }
 
-bool ModGravaVrtMensal::registro32(const LinhaRegistro& r)
+bool ModGravaVrtMensal::registro32(const RegistroLido& r)
 {
     if (!m_cadastros.ExisteProduto(r.aparado(s("CD_INT_PRODUTO"))))
         return m_estado.erroRegistro(s("32"), s("Insumo não cadastrado"));
@@ -254,7 +254,7 @@ bool ModGravaVrtMensal::registro32(const LinhaRegistro& r)
     return true;
 }
 
-bool ModGravaVrtMensal::registro33(const LinhaRegistro& r)
+bool ModGravaVrtMensal::registro33(const RegistroLido& r)
 {
     const QString codigo = r.aparado(s("CD_INT_INSUMO"));
     // Registered again under the name kept from record 32: it exists, so it counts as a product changed.
@@ -281,7 +281,7 @@ bool ModGravaVrtMensal::registro33(const LinhaRegistro& r)
     return true;
 }
 
-bool ModGravaVrtMensal::registro34(const LinhaRegistro& r)
+bool ModGravaVrtMensal::registro34(const RegistroLido& r)
 {
     const bool dl288 = r.texto(s("IND_DL_288_67")) == s("S");
     m_comandos.executa(
@@ -297,7 +297,7 @@ bool ModGravaVrtMensal::registro34(const LinhaRegistro& r)
     return true;
 }
 
-bool ModGravaVrtMensal::registro35(const LinhaRegistro& r)
+bool ModGravaVrtMensal::registro35(const RegistroLido& r)
 {
     m_comandos.executa(
         "INSERT INTO ITEM_DI_INS_MEN (ID_VRT_MICRO, CD_INT_INSUMO, NM_INT_INSUMO, CD_LOCAL_DESTINO, ID_INSUMO_ITEM, "
@@ -321,7 +321,7 @@ bool ModGravaVrtMensal::registro35(const LinhaRegistro& r)
     return true;
 }
 
-bool ModGravaVrtMensal::registro36(const LinhaRegistro& r)
+bool ModGravaVrtMensal::registro36(const RegistroLido& r)
 {
     m_comandos.executa(
         "INSERT INTO ITEM_DSI_INS_MEN (ID_VRT_MICRO, ID_INSUMO_ITEM, CD_INT_INSUMO, CD_LOCAL_DESTINO, NR_DSI, "
@@ -337,7 +337,7 @@ bool ModGravaVrtMensal::registro36(const LinhaRegistro& r)
     return true;
 }
 
-bool ModGravaVrtMensal::registro41(const LinhaRegistro& r)
+bool ModGravaVrtMensal::registro41(const RegistroLido& r)
 {
     const QString ncm = r.texto(s("CD_NCM_PRODUTO"));
     if (!m_cadastros.ExisteNcm(ncm))

@@ -5,7 +5,7 @@
 
 class CadastrosLeitura;
 class ComandosPreparados;
-class LinhaRegistro;
+class RegistroLido;
 struct EstadoLeitura;
 
 class ModGravaVrtMensal {
@@ -15,18 +15,18 @@ public:
     bool gravaRegistro(const QString& tipo, QString& linha);
 
 private:
-    bool registro11(const LinhaRegistro& r);
-    bool registro12(const LinhaRegistro& r);
-    bool registro13(const LinhaRegistro& r);
-    bool registro14(const LinhaRegistro& r);
-    bool registro21(const LinhaRegistro& r);
-    bool registro31(const LinhaRegistro& r);
-    bool registro32(const LinhaRegistro& r);
-    bool registro33(const LinhaRegistro& r);
-    bool registro34(const LinhaRegistro& r);
-    bool registro35(const LinhaRegistro& r);
-    bool registro36(const LinhaRegistro& r);
-    bool registro41(const LinhaRegistro& r);
+    bool registro11(const RegistroLido& r);
+    bool registro12(const RegistroLido& r);
+    bool registro13(const RegistroLido& r);
+    bool registro14(const RegistroLido& r);
+    bool registro21(const RegistroLido& r);
+    bool registro31(const RegistroLido& r);
+    bool registro32(const RegistroLido& r);
+    bool registro33(const RegistroLido& r);
+    bool registro34(const RegistroLido& r);
+    bool registro35(const RegistroLido& r);
+    bool registro36(const RegistroLido& r);
+    bool registro41(const RegistroLido& r);
     // The key the engine gave the row just inserted; without one, `mensagem` is shown and the result is false.
     bool novaChave(QVariant& chave, const QString& mensagem);
 
