@@ -3,105 +3,99 @@
 #include "rules/Formatadores.h"
 
 #include <QHash>
-#include <QtGlobal>
+
+using namespace Funcoes;
 
 namespace {
-// Field names resolved once per layout: a large file asks for the same dozen fields a hundred thousand times.
-const CampoLayout& resolve(const LayoutRegistro& layout, const QString& nome)
+
+// The empty form of every field of a layout, computed once per layout: records are written by the hundred
+// thousand and most of their fields keep it.
+const QVector<QString>& valoresIniciais(const LayoutRegistro& layout)
 {
-    static QHash<const LayoutRegistro*, QHash<QString, int>> indices;
-    QHash<QString, int>& porNome = indices[&layout];
-    if (porNome.isEmpty()) {
-        for (int i = 0; i < layout.campos.size(); ++i)
-            porNome.insert(layout.campos.at(i).nome, i);
+    static QHash<const LayoutRegistro*, QVector<QString>> cache;
+    auto it = cache.find(&layout);
+    if (it == cache.end()) {
+        QVector<QString> v;
+        v.reserve(layout.campos.size());
+        for (const CampoLayout& c : layout.campos)
+            v.append(LinhaRegistro::formata(c, QString()));
+        it = cache.insert(&layout, v);
     }
-    const auto it = porNome.constFind(nome);
-    if (it == porNome.constEnd())
-        qFatal("Registro %s sem o campo %s", qPrintable(layout.tipo), qPrintable(nome));
-    return layout.campos.at(it.value());
+    return it.value();
 }
 
-QString naoNulo(const QString& s)
-{
-    return s.isNull() ? QString(QLatin1String("")) : s;
-}
 }  // namespace
 
-LinhaRegistro::LinhaRegistro(const QString& linha, const LayoutRegistro& layout)
-    : m_linha(linha), m_layout(layout)
+LinhaRegistro::LinhaRegistro(const LayoutRegistro& layout)
+    : m_layout(&layout), m_valores(valoresIniciais(layout))
 {
 }
 
-const CampoLayout& LinhaRegistro::campo(const QString& nome) const
+QString LinhaRegistro::formata(const CampoLayout& campo, const QString& valor)
 {
-    return resolve(m_layout, nome);
-}
-
-QString LinhaRegistro::texto(const QString& nome) const
-{
-    return naoNulo(campo(nome).de(m_linha));
-}
-
-QString LinhaRegistro::aparado(const QString& nome) const
-{
-    return naoNulo(texto(nome).trimmed());
-}
-
-QString LinhaRegistro::semZeros(const QString& nome) const
-{
-    const QString t = texto(nome);
-    return soZeros(t) ? QString(QLatin1String("")) : t;
-}
-
-QString LinhaRegistro::semZerosEsquerda(const QString& nome) const
-{
-    return naoNulo(Funcoes::TiraZerosEsquerda(texto(nome)));
-}
-
-QString LinhaRegistro::decimal(const QString& nome) const
-{
-    const CampoLayout& c = campo(nome);
-    return naoNulo(Funcoes::InsereVirgula(Funcoes::TiraZerosEsquerda(c.de(m_linha)), c.casas()));
-}
-
-QString LinhaRegistro::data(const QString& nome) const
-{
-    return dataDoArquivo(texto(nome));
-}
-
-bool LinhaRegistro::zeros(const QString& nome) const
-{
-    return soZeros(texto(nome));
-}
-
-bool LinhaRegistro::brancos(const QString& nome) const
-{
-    return soBrancos(texto(nome));
-}
-
-bool LinhaRegistro::soZeros(const QString& texto)
-{
-    if (texto.isEmpty())
-        return false;
-    for (QChar c : texto) {
-        if (c != QLatin1Char('0'))
-            return false;
+    switch (campo.tipo) {
+    case TipoCampo::N:
+        return ZeroEsquerda(valor, campo.tamanho);
+    case TipoCampo::X:
+        return BrancoDireita(valor, campo.tamanho);
+    case TipoCampo::R:
+        return BrancoEsquerda(valor, campo.tamanho);
+    case TipoCampo::D2:
+    case TipoCampo::D5:
+    case TipoCampo::D7:
+        return ZeroEsquerda(TiraCaractere(valor, QStringLiteral(",")), campo.tamanho);
+    case TipoCampo::DT:
+        return ZeroEsquerda(valor.mid(4, 4) + valor.mid(2, 2) + valor.mid(0, 2), 8);
+    case TipoCampo::K:
+        return valor.isNull() ? campo.constante : valor;
+    case TipoCampo::A:
+        return valor.isNull() ? QStringLiteral("") : valor;
     }
-    return true;
+    return valor;
 }
 
-bool LinhaRegistro::soBrancos(const QString& texto)
+void LinhaRegistro::poe(const QString& nome, const QString& valor)
 {
-    for (QChar c : texto) {
-        if (c != QLatin1Char(' '))
-            return false;
+    const int i = m_layout->indice(nome);
+    if (i < 0)
+        qFatal("Registro %s sem o campo %s", qPrintable(m_layout->tipo), qPrintable(nome));
+    m_valores[i] = formata(m_layout->campos.at(i), valor);
+}
+
+void LinhaRegistro::poeComoEsta(const QString& nome, const QString& texto)
+{
+    const int i = m_layout->indice(nome);
+    if (i < 0)
+        qFatal("Registro %s sem o campo %s", qPrintable(m_layout->tipo), qPrintable(nome));
+    m_valores[i] = texto;
+}
+
+QString LinhaRegistro::valor(const QString& nome) const
+{
+    return m_valores.at(m_layout->indice(nome));
+}
+
+QString LinhaRegistro::texto() const
+{
+    QString s;
+    compoeEm(s, 1);
+    return s;
+}
+
+int LinhaRegistro::compoeEm(QString& destino, int coluna) const
+{
+    // Each field is placed at its own column, as the old writer's tabulation did: blanks up to the column, or,
+    // when an earlier value ran past it, a line end and blanks up to the column on the new line.
+    for (int i = 0; i < m_valores.size(); ++i) {
+        const int posicao = m_layout->campos.at(i).posicao;
+        if (coluna > posicao) {
+            destino += QLatin1String("\r\n");
+            coluna = 1;
+        }
+        if (coluna < posicao)
+            destino.append(QString(posicao - coluna, QLatin1Char(' ')));
+        destino += m_valores.at(i);
+        coluna = posicao + m_valores.at(i).size();
     }
-    return true;
-}
-
-QString LinhaRegistro::dataDoArquivo(const QString& d)
-{
-    if (d.size() != 8)
-        return naoNulo(d);
-    return d.mid(6, 2) + d.mid(4, 2) + d.left(4);
+    return coluna;
 }

@@ -1,0 +1,60 @@
+#include "file/GravaVrt.h"
+
+#include "file/CabecalhoVrt.h"
+#include "file/ModTrataVrtIndividual.h"
+#include "file/modTrataVrtMensal.h"
+#include "shell/MsgBox.h"
+
+#include <QDir>
+
+GravacaoVrt::GravacaoVrt(const QString& pastaDestino, ModoGravacao modo) : m_pasta(pastaDestino), m_modo(modo)
+{
+}
+
+QString GravacaoVrt::origem() const
+{
+    return m_modo == ModoGravacao::Backup ? QStringLiteral("3") : QStringLiteral("1");
+}
+
+QString GravacaoVrt::caminhoArquivo(const QString& idVrtMicro) const
+{
+    QString nome = idVrtMicro;
+    nome.remove(QLatin1Char('/'));
+    return QDir(m_pasta).filePath(nome);
+}
+
+bool GravacaoVrt::grava(const QString& idVrtMicro)
+{
+    CabecalhoVrt cabecalho;
+    if (!cabecalho.carrega(idVrtMicro)) {
+        m_resultado.ignoradas.append(idVrtMicro);
+        return false;
+    }
+    m_resultado.arquivos.append(caminhoArquivo(cabecalho.idVrtMicro));
+    if (cabecalho.tipo() == TipoDeclaracao::Mensal)
+        modTrataVrtMensal::GravaVrtMensal(cabecalho, *this);
+    else
+        ModTrataVrtIndividual::GravaVrtIndividual(cabecalho, *this);
+    return true;
+}
+
+void GravacaoVrt::conclui()
+{
+    m_resultado.erroGravacao = erroGravacao;
+    if (erroGravacao) {
+        erroGravacao = false;
+        return;
+    }
+    MsgBox(m_modo == ModoGravacao::Backup ? QStringLiteral("Backup realizado com sucesso.")
+                                          : QStringLiteral("Arquivo gerado."),
+           Msg::OKOnly | Msg::Information);
+}
+
+ResultadoGravacao GravaVrt(const QStringList& identificacoes, const QString& pastaDestino, ModoGravacao modo)
+{
+    GravacaoVrt run(pastaDestino, modo);
+    for (const QString& id : identificacoes)
+        run.grava(id);
+    run.conclui();
+    return run.resultado();
+}

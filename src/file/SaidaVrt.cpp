@@ -1,0 +1,143 @@
+#include "file/SaidaVrt.h"
+
+#include <QFile>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+// Big enough that a declaration of a hundred thousand records is a few hundred writes.
+constexpr int TamanhoBuffer = 256 * 1024;
+}  // namespace
+
+SaidaVrt::SaidaVrt() : m_cp1252("windows-1252")
+{
+    if (!m_cp1252.isValid())
+        qFatal("Conversão para Windows-1252 indisponível");
+}
+
+SaidaVrt::~SaidaVrt()
+{
+    abandona();
+}
+
+SaidaVrt::Erro SaidaVrt::erroDoSistema(int codigo)
+{
+    switch (codigo) {
+    case EWOULDBLOCK:
+    case EBUSY:
+    case ETXTBSY:
+        return {55, QStringLiteral("Arquivo já aberto")};
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+        return {61, QStringLiteral("Disco cheio")};
+    case EACCES:
+    case EPERM:
+    case EROFS:
+        return {70, QStringLiteral("Permissão negada")};
+    case ENOENT:
+    case ENOTDIR:
+        return {76, QStringLiteral("Caminho não encontrado")};
+    case EISDIR:
+        return {75, QStringLiteral("Erro de acesso ao caminho/arquivo")};
+    default:
+        return {57, QStringLiteral("Erro de E/S no dispositivo")};
+    }
+}
+
+void SaidaVrt::abre(const QString& caminho)
+{
+    abandona();
+    m_coluna = 1;
+    m_buffer.clear();
+    // Opened without truncating, so that a file another program is using is left untouched when it is refused.
+    const QByteArray nome = QFile::encodeName(caminho);
+    const int fd = ::open(nome.constData(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
+    if (fd < 0)
+        throw erroDoSistema(errno);
+    if (::flock(fd, LOCK_EX | LOCK_NB) != 0) {
+        const int codigo = errno;
+        ::close(fd);
+        throw erroDoSistema(codigo);
+    }
+    struct flock trava = {};
+    trava.l_type = F_WRLCK;
+    trava.l_whence = SEEK_SET;
+    if (::fcntl(fd, F_GETLK, &trava) == 0 && trava.l_type != F_UNLCK) {
+        ::close(fd);
+        throw erroDoSistema(EWOULDBLOCK);
+    }
+    struct stat info = {};
+    if (::fstat(fd, &info) == 0 && S_ISREG(info.st_mode) && ::ftruncate(fd, 0) != 0) {
+        const int codigo = errno;
+        ::close(fd);
+        throw erroDoSistema(codigo);
+    }
+    m_fd = fd;
+}
+
+void SaidaVrt::escreve(const LinhaRegistro& linha)
+{
+    m_texto.clear();
+    // The next record begins at column 1: a line left open by a record without its own line end ends here.
+    if (m_coluna > 1) {
+        m_texto += QLatin1String("\r\n");
+        m_coluna = 1;
+    }
+    m_coluna = linha.compoeEm(m_texto, m_coluna);
+    if (!linha.layout().semFimDeLinha) {
+        m_texto += QLatin1String("\r\n");
+        m_coluna = 1;
+    }
+    m_buffer += m_cp1252.encode(m_texto);
+    if (m_buffer.size() >= TamanhoBuffer)
+        descarrega();
+}
+
+void SaidaVrt::descarrega()
+{
+    const char* dados = m_buffer.constData();
+    qsizetype resta = m_buffer.size();
+    while (resta > 0) {
+        const ssize_t n = ::write(m_fd, dados, static_cast<size_t>(resta));
+        if (n < 0) {
+            if (errno == EINTR)
+                continue;
+            const int codigo = errno;
+            m_buffer.clear();
+            throw erroDoSistema(codigo);
+        }
+        dados += n;
+        resta -= n;
+    }
+    m_buffer.clear();
+}
+
+void SaidaVrt::fecha()
+{
+    if (m_fd < 0)
+        return;
+    descarrega();
+    const int fd = m_fd;
+    m_fd = -1;
+    if (::close(fd) != 0)
+        throw erroDoSistema(errno);
+}
+
+void SaidaVrt::abandona()
+{
+    if (m_fd < 0)
+        return;
+    // What was composed before the failure stays on the disk, as far as it can be written.
+    try {
+        descarrega();
+    } catch (const Erro&) {
+    }
+    ::close(m_fd);
+    m_fd = -1;
+    m_buffer.clear();
+}
