@@ -33,6 +33,24 @@ inline QVariant insere(const QString& tabela, const QVariantMap& valores, const 
     return modBancoDados::ValorUnico(QStringLiteral("SELECT MAX(%1) FROM %2").arg(contador, tabela));
 }
 
+// Writes a tree in one transaction of its own unless one is open already: a statement per commit is slow.
+class TransacaoSeFechada {
+public:
+    TransacaoSeFechada() : m_propria(!modBancoDados::TransacaoAberta())
+    {
+        if (m_propria)
+            modBancoDados::IniciaTransacao();
+    }
+    ~TransacaoSeFechada()
+    {
+        if (m_propria)
+            modBancoDados::ConfirmaTransacao();
+    }
+
+private:
+    bool m_propria;
+};
+
 inline void cabeca(ArvoreDeclaracao& a, const QString& id, const QString& tipo)
 {
     insere(QStringLiteral("VRT"), {{QStringLiteral("ID_VRT_MICRO"), id}, {QStringLiteral("CD_TIPO_VRT"), tipo},
@@ -52,6 +70,7 @@ inline void cabeca(ArvoreDeclaracao& a, const QString& id, const QString& tipo)
 // (with its Decreto-Lei 288/67 values) on the declaration.
 inline ArvoreDeclaracao mensal(const QString& id)
 {
+    TransacaoSeFechada transacao;
     ArvoreDeclaracao a;
     cabeca(a, id, QStringLiteral("2"));
     const QString ID = QStringLiteral("ID_VRT_MICRO");
@@ -119,6 +138,7 @@ inline ArvoreDeclaracao mensal(const QString& id)
 // An individual declaration: one invoice with one item that has a row in every table below it.
 inline ArvoreDeclaracao individual(const QString& id)
 {
+    TransacaoSeFechada transacao;
     ArvoreDeclaracao a;
     cabeca(a, id, QStringLiteral("1"));
     const QString ID = QStringLiteral("ID_VRT_MICRO");
