@@ -68,7 +68,8 @@ private:
     std::unique_ptr<CursorFilhos> m_destinos, m_nfa, m_di, m_dsi, m_insumos;
     std::unique_ptr<DocumentosInsumoMensal> m_docsInsumo;
     QHash<QString, QString> m_totalInsumo;        // INSUMO_VRT by input
-    QHash<QString, QString> m_totalPorDestino;    // TOT_INSUMO_CONSOLIDADO by destination and input
+    // TOT_INSUMO_CONSOLIDADO by destination and input; a Null destination or input has no row to be found.
+    QHash<QString, QString> m_totalPorDestino;
     // The old DI number of the last record 35 that had one: record 35 keeps it when its own is missing.
     QString m_diAntigaInsumo;
 };
@@ -313,7 +314,8 @@ void EscritaMensal::preparaInsumos()
     tot.setForwardOnly(true);
     AbreConsulta(tot,
                  QStringLiteral("SELECT CD_LOCAL_DESTINO, CD_INT_INSUMO, QT_TOT_INS_POR_LOC "
-                                "FROM TOT_INSUMO_CONSOLIDADO WHERE ID_VRT_MICRO = ?"),
+                                "FROM TOT_INSUMO_CONSOLIDADO WHERE ID_VRT_MICRO = ? "
+                                "AND CD_LOCAL_DESTINO IS NOT NULL AND CD_INT_INSUMO IS NOT NULL"),
                  {id});
     while (tot.next())
         m_totalPorDestino.insert(chaveDestinoInsumo(tot.value(0).toString(), tot.value(1).toString()),
