@@ -1,9 +1,32 @@
+// vrt-cli: the command-line companion of the program, for batch work on the same database.
+#include "cli/ComandosCli.h"
+#include "cli/OpcoesCli.h"
+#include "shell/MsgBox.h"
+
 #include <QCoreApplication>
 #include <cstdio>
 
 int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
-    std::fprintf(stderr, "uso: vrt-cli COMANDO [OPÇÕES]\n");
-    return 2;
+    const OpcoesCli opcoes = OpcoesCli::le(app.arguments());
+    if (opcoes.ajuda) {
+        std::fputs(TextoAjuda().toUtf8().constData(), stdout);
+        return 0;
+    }
+    if (!opcoes.erro.isEmpty()) {
+        std::fprintf(stderr, "vrt-cli: %s\n\n%s", opcoes.erro.toUtf8().constData(), TextoAjuda().toUtf8().constData());
+        return 2;
+    }
+    if (opcoes.comando == QStringLiteral("verificar"))
+        return ComandosCli::Verificar(opcoes);
+    // Until a command installs its own, boxes print to stderr (a failed statement's among them).
+    InstalaManipuladorMsg(ManipuladorConsole);
+    if (!ComandosCli::AbreBanco(opcoes))
+        return 1;
+    if (opcoes.comando == QStringLiteral("gravar"))
+        return ComandosCli::Gravar(opcoes);
+    if (opcoes.comando == QStringLiteral("importar"))
+        return ComandosCli::Importar(opcoes);
+    return ComandosCli::Listar(opcoes);
 }

@@ -1,0 +1,94 @@
+#include "cli/OpcoesCli.h"
+
+namespace {
+QString s(const char* t)
+{
+    return QString::fromUtf8(t);
+}
+}  // namespace
+
+OpcoesCli OpcoesCli::le(const QStringList& args)
+{
+    OpcoesCli o;
+    for (int i = 1; i < args.size(); ++i) {
+        const QString& a = args.at(i);
+        if (a == s("--help") || a == s("-h") || a == s("ajuda")) {
+            o.ajuda = true;
+        } else if (a == s("--banco") || a == s("--pasta")) {
+            if (i + 1 >= args.size()) {
+                o.erro = s("a opção ") + a + s(" precisa de um valor");
+                return o;
+            }
+            (a == s("--banco") ? o.banco : o.pasta) = args.at(++i);
+        } else if (a == s("--backup")) {
+            o.backup = true;
+        } else if (a == s("--restaurar")) {
+            o.restaurar = true;
+        } else if (a == s("--substituir")) {
+            o.substituir = true;
+        } else if (a.startsWith(s("--"))) {
+            o.erro = s("opção desconhecida: ") + a;
+            return o;
+        } else if (o.comando.isEmpty()) {
+            o.comando = a;
+        } else {
+            o.argumentos << a;
+        }
+    }
+    if (o.ajuda)
+        return o;
+    const QStringList comandos = {s("gravar"), s("importar"), s("listar"), s("verificar")};
+    if (o.comando.isEmpty()) {
+        o.erro = s("falta o comando");
+    } else if (!comandos.contains(o.comando)) {
+        o.erro = s("comando desconhecido: ") + o.comando;
+    } else if (o.comando == s("gravar")) {
+        if (o.argumentos.isEmpty())
+            o.erro = s("gravar precisa de ao menos uma identificação");
+        else if (o.pasta.isEmpty())
+            o.erro = s("gravar precisa de --pasta DIR");
+    } else if (o.comando == s("importar") || o.comando == s("verificar")) {
+        if (o.argumentos.size() != 1)
+            o.erro = o.comando + s(" precisa de exatamente um ARQUIVO");
+    } else if (o.comando == s("listar") && !o.argumentos.isEmpty()) {
+        o.erro = s("listar não recebe argumentos");
+    }
+    const bool opcaoDeImportar = o.restaurar || o.substituir;
+    if (o.erro.isEmpty() && opcaoDeImportar && o.comando != s("importar"))
+        o.erro = s("--restaurar e --substituir servem só a importar");
+    if (o.erro.isEmpty() && o.backup && o.comando != s("gravar"))
+        o.erro = s("--backup serve só a gravar");
+    if (o.erro.isEmpty() && !o.pasta.isEmpty() && o.comando != s("gravar"))
+        o.erro = s("--pasta serve só a gravar");
+    return o;
+}
+
+QString TextoAjuda()
+{
+    return s("uso: vrt-cli COMANDO [ARGUMENTOS] [OPÇÕES]\n"
+             "\n"
+             "Companheiro de linha de comando do VRT - Vistoria de Remessa Tributada, sobre o mesmo banco de dados\n"
+             "do programa (PLN_VRT_v2.mdb ao lado do executável, salvo --banco).\n"
+             "\n"
+             "Comandos:\n"
+             "  gravar ID... --pasta DIR [--backup]\n"
+             "        grava as declarações para transmissão (origem 1) ou, com --backup, como backup (origem 3),\n"
+             "        um arquivo por declaração, com o nome da identificação sem a barra (00012/09 -> 0001209)\n"
+             "  importar ARQUIVO [--restaurar] [--substituir]\n"
+             "        lê uma declaração para o banco, numa única transação: um arquivo com erro não deixa nada.\n"
+             "        --restaurar faz como \"Restaurar Backup\" (as perguntas sobre a origem do arquivo são\n"
+             "        respondidas Sim); --substituir responde Sim à substituição de uma VRT do mesmo CNPJ e\n"
+             "        mês (ou nota fiscal); sem ela, a duplicada é recusada\n"
+             "  listar\n"
+             "        lista as declarações como a tela de escolha: identificação, internador, criação, tipo,\n"
+             "        referência mensal, nota fiscal, série e situação, da identificação mais alta à mais baixa\n"
+             "  verificar ARQUIVO\n"
+             "        confere um arquivo de declaração sem tocar no banco e lista todos os problemas (linha,\n"
+             "        posições, campo, o que está errado)\n"
+             "\n"
+             "Opções:\n"
+             "  --banco ARQUIVO   usa outro banco de dados\n"
+             "  --help            mostra este texto\n"
+             "\n"
+             "As mensagens do programa saem em stderr. Saída: 0 sucesso, 1 recusa ou falha, 2 erro de uso.\n");
+}
