@@ -189,6 +189,8 @@ void tst_DigitoVerificador::validaCNPJ_data()
 {
     QTest::addColumn<QString>("cnpj");
     QTest::addColumn<bool>("valido");
+    QTest::newRow("vazio passa sem mensagem") << "" << true;
+    QTest::newRow("nulo passa sem mensagem") << QString() << true;
     QTest::newRow("correto") << "11222333000181" << true;
     QTest::newRow("correto com digitos zero") << "11444777000161" << true;
     QTest::newRow("treze digitos") << "1122233300018" << false;
