@@ -37,7 +37,7 @@ OpcoesCli OpcoesCli::le(const QStringList& args)
     }
     if (o.ajuda)
         return o;
-    const QStringList comandos = {s("gravar"), s("importar"), s("listar"), s("verificar")};
+    const QStringList comandos = {s("gravar"), s("importar"), s("listar"), s("verificar"), s("tabela")};
     if (o.comando.isEmpty()) {
         o.erro = s("falta o comando");
     } else if (!comandos.contains(o.comando)) {
@@ -47,7 +47,7 @@ OpcoesCli OpcoesCli::le(const QStringList& args)
             o.erro = s("gravar precisa de ao menos uma identificação");
         else if (o.pasta.isEmpty())
             o.erro = s("gravar precisa de --pasta DIR");
-    } else if (o.comando == s("importar") || o.comando == s("verificar")) {
+    } else if (o.comando == s("importar") || o.comando == s("verificar") || o.comando == s("tabela")) {
         if (o.argumentos.size() != 1)
             o.erro = o.comando + s(" precisa de exatamente um ARQUIVO");
     } else if (o.comando == s("listar") && !o.argumentos.isEmpty()) {
@@ -82,6 +82,9 @@ QString TextoAjuda()
              "  listar\n"
              "        lista as declarações como a tela de escolha: identificação, internador, criação, tipo,\n"
              "        referência mensal, nota fiscal, série e situação, da identificação mais alta à mais baixa\n"
+             "  tabela ARQUIVO\n"
+             "        importa um arquivo de tabela de referência (moeda, NCM, produto, UF, unidade de medida\n"
+             "        comercial), como os comandos de importação de tabelas do programa\n"
              "  verificar ARQUIVO\n"
              "        confere um arquivo de declaração sem tocar no banco e lista todos os problemas (linha,\n"
              "        posições, campo, o que está errado)\n"

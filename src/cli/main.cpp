@@ -1,4 +1,5 @@
 // vrt-cli: the command-line companion of the program, for batch work on the same database.
+#include "cli/ComandoTabela.h"
 #include "cli/ComandosCli.h"
 #include "cli/OpcoesCli.h"
 #include "shell/MsgBox.h"
@@ -28,5 +29,7 @@ int main(int argc, char** argv)
         return ComandosCli::Gravar(opcoes);
     if (opcoes.comando == QStringLiteral("importar"))
         return ComandosCli::Importar(opcoes);
+    if (opcoes.comando == QStringLiteral("tabela"))
+        return ComandosCli::Tabela(opcoes);
     return ComandosCli::Listar(opcoes);
 }
