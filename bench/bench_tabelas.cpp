@@ -1,0 +1,132 @@
+// Times the reference table import and the declaration list on a copy of the delivered database:
+//   - a NCM file of 15,000 lines into an empty NCM_ITEM, and again over itself (every line an update);
+//   - a product file of 50,000 lines into an empty PRODUTO, and again over itself;
+//   - the chooser's list query over 5,000 declarations.
+// Prints the figures; never fails on time.
+#include "file/ListaDeclaracoes.h"
+#include "refdata/modImportacao.h"
+#include "shell/MsgBox.h"
+#include "shell/modVRTPLN.h"
+#include "store/modBancoDados.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QStringEncoder>
+#include <QTemporaryDir>
+#include <cstdio>
+
+namespace {
+
+QString fixo(const QString& valor, int tamanho)
+{
+    return valor.left(tamanho).leftJustified(tamanho, QLatin1Char(' '));
+}
+
+void grava(const QString& caminho, const QStringList& linhas)
+{
+    QFile f(caminho);
+    if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        qFatal("não foi possível gravar %s", qPrintable(caminho));
+    QStringEncoder cp1252("windows-1252");
+    QByteArray bytes;
+    for (const QString& l : linhas)
+        bytes += QByteArray(cp1252.encode(l)) + "\r\n";
+    f.write(bytes);
+}
+
+qint64 importa(const QString& pasta, const QString& nome)
+{
+    QElapsedTimer relogio;
+    relogio.start();
+    if (modImportacao::ImportaTabela(pasta, nome) != modImportacao::Resultado::Sucesso)
+        qFatal("a importação de %s falhou", qPrintable(nome));
+    return relogio.elapsed();
+}
+
+void mostra(const char* o_que, int linhas, qint64 ms)
+{
+    std::printf("%-48s %6d linhas  %6lld ms  %9.0f linhas/s\n", o_que, linhas, ms,
+                ms > 0 ? linhas * 1000.0 / ms : 0.0);
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication app(argc, argv);
+    // The final message of each import is counted, not printed.
+    int caixas = 0;
+    InstalaManipuladorMsg([&caixas](const QString&, int, const QString&) {
+        ++caixas;
+        return Msg::OK;
+    });
+    QTemporaryDir pasta;
+    const QString banco = pasta.filePath(modVRTPLN::NomeArquivoBanco);
+    if (!QFile::copy(QStringLiteral(VRT_DELIVERED_DB), banco))
+        qFatal("banco entregue ausente: %s", VRT_DELIVERED_DB);
+    QFile(banco).setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    modVRTPLN::CaminhoAplicacao = pasta.path();
+    modVRTPLN::CaminhoDados = pasta.path();
+    modBancoDados::ConectaBanco(banco);
+    modBancoDados::ExecutaSql(QStringLiteral("DELETE FROM NCM_ITEM"));
+    modBancoDados::ExecutaSql(QStringLiteral("DELETE FROM PRODUTO"));
+    modVRTPLN::ArquivoImportaTabela = QStringLiteral("SIM");
+
+    const int nNcm = 15000;
+    QStringList ncm{QStringLiteral("00VRT/PLN0 NCM")};
+    for (int i = 0; i < nNcm; ++i)
+        ncm << QStringLiteral("02") + QStringLiteral("%1").arg(10000000 + i * 613, 8, 10, QLatin1Char('0'))
+                   + fixo(QStringLiteral("Outros tecidos de malha, de fibras sintéticas, crus ou branqueados nº %1").arg(i),
+                          80)
+                   + fixo(QStringLiteral("QUILOGRAMA LIQUIDO"), 50);
+    grava(pasta.filePath(QStringLiteral("ncm.txt")), ncm);
+
+    const int nProdutos = 50000;
+    QStringList produtos{QStringLiteral("00VRT/PLN0 PRODUTOS")};
+    for (int i = 0; i < nProdutos; ++i)
+        produtos << QStringLiteral("03") + fixo(QStringLiteral("PRD-%1").arg(i, 8, 10, QLatin1Char('0')), 15)
+                        + fixo(QStringLiteral("Caneca de porcelana D'Ávila modelo %1").arg(i), 80);
+    grava(pasta.filePath(QStringLiteral("produtos.txt")), produtos);
+
+    std::printf("Importação de tabelas (uma transação por arquivo)\n");
+    mostra("NCM, tabela vazia", nNcm, importa(pasta.path(), QStringLiteral("ncm.txt")));
+    mostra("NCM, de novo (toda linha altera)", nNcm, importa(pasta.path(), QStringLiteral("ncm.txt")));
+    mostra("produtos, tabela vazia", nProdutos, importa(pasta.path(), QStringLiteral("produtos.txt")));
+    mostra("produtos, de novo (toda linha altera)", nProdutos, importa(pasta.path(), QStringLiteral("produtos.txt")));
+    if (modBancoDados::ValorUnico(QStringLiteral("SELECT COUNT(*) FROM PRODUTO")).toInt() != nProdutos
+        || modBancoDados::ValorUnico(QStringLiteral("SELECT COUNT(*) FROM NCM_ITEM")).toInt() != nNcm)
+        qFatal("contagem errada depois da importação");
+
+    const int nVrt = 5000;
+    {
+        modBancoDados::Transacao t;
+        for (int i = 1; i <= nVrt; ++i) {
+            const QString id = QStringLiteral("%1/09").arg(i, 5, 10, QLatin1Char('0'));
+            const bool mensal = i % 2;
+            modBancoDados::ExecutaSql(QStringLiteral("INSERT INTO VRT (ID_VRT_MICRO, CD_TIPO_VRT, NR_CNPJ_INTERNADOR, "
+                                                     "DT_REGISTRO_VRT_MICRO, IND_RETIFICACAO) VALUES (?, ?, ?, ?, 'N')"),
+                                      {id, mensal ? QStringLiteral("2") : QStringLiteral("1"),
+                                       QStringLiteral("%1").arg(11222333000100LL + i, 14, 10, QLatin1Char('0')),
+                                       QStringLiteral("2009-%1-15").arg(1 + i % 12, 2, 10, QLatin1Char('0'))});
+            if (mensal)
+                modBancoDados::ExecutaSql(QStringLiteral("INSERT INTO VRT_MENSAL VALUES (?, '032009')"), {id});
+            else
+                modBancoDados::ExecutaSql(QStringLiteral("INSERT INTO NOTA_FISCAL_SAIDA (ID_VRT_MICRO, NR_NF_SAIDA, "
+                                                         "NR_SERIE_NF_SAIDA) VALUES (?, '000123', '1    ')"),
+                                          {id});
+        }
+        t.confirma();
+    }
+    std::printf("\nLista de declarações da tela de escolha\n");
+    for (int coluna = 0; coluna < 4; ++coluna) {
+        QElapsedTimer relogio;
+        relogio.start();
+        const int n = ListaDeclaracoes::Lista(coluna, QStringLiteral("DESC")).size();
+        mostra(qPrintable(QStringLiteral("ordenada por %1").arg(ListaDeclaracoes::ColunaOrdenacao(coluna))), n,
+               relogio.elapsed());
+    }
+    std::printf("\n%d mensagens finais\n", caixas);
+    modBancoDados::DesconectaBanco();
+    return 0;
+}
