@@ -6,6 +6,8 @@
 #include "shell/frmVRTPLN.h"
 #include "shell/modVRTPLN.h"
 #include "store/modBancoDados.h"
+#include "widgets/MaskedField.h"
+#include "widgets/TextField.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -13,7 +15,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRegularExpressionValidator>
 #include <QShowEvent>
 #include <QSqlQuery>
 #include <QTimer>
@@ -30,19 +31,6 @@ QPushButton* botao(const QString& nome, const QString& texto, QWidget* pai)
     b->setAutoDefault(false);
     return b;
 }
-
-// Fields select their whole text when they get the focus, as every field of the program does.
-class CampoSelecionado : public QLineEdit {
-public:
-    using QLineEdit::QLineEdit;
-
-protected:
-    void focusInEvent(QFocusEvent* e) override
-    {
-        QLineEdit::focusInEvent(e);
-        QTimer::singleShot(0, this, &QLineEdit::selectAll);
-    }
-};
 
 }  // namespace
 
@@ -81,12 +69,15 @@ void AssistenteTabela::montaTela()
     auto* filtro = new QHBoxLayout(m_fraFiltro);
     m_lblFiltro = new QLabel(QStringLiteral("Selecione um código"), m_fraFiltro);
     m_lblFiltro->setObjectName(QStringLiteral("lblFiltro"));
-    m_txtCodigo = new CampoSelecionado(m_fraFiltro);
-    m_txtCodigo->setObjectName(QStringLiteral("txtCodigo"));
-    m_txtCodigo->setMaxLength(m_cfg.tamanhoFiltro);
+    // NCM and currency codes are digits in a masked box; a product code is free text without the special
+    // characters. Either selects its whole text when it gets the focus.
     if (m_cfg.filtroSoDigitos)
-        m_txtCodigo->setValidator(
-            new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), m_txtCodigo));
+        m_txtCodigo = new MaskedField(QString(m_cfg.tamanhoFiltro, QLatin1Char('#')), QStringLiteral("txtCodigo"),
+                                      m_fraFiltro);
+    else
+        m_txtCodigo = &(new TextField(QStringLiteral("txtCodigo"), m_cfg.tamanhoFiltro, m_fraFiltro))
+                           ->refuseSpecialCharacters()
+                           .setSelectAllOnFocus();
     m_lblFiltro->setBuddy(m_txtCodigo);
     m_cmdFiltro = botao(QStringLiteral("cmdFiltro"), QStringLiteral("Aplicar"), m_fraFiltro);
     filtro->addWidget(m_lblFiltro);
@@ -110,15 +101,14 @@ void AssistenteTabela::montaTela()
         auto* campos = new QGridLayout;
         m_lblCodigo = new QLabel(m_cfg.rotuloCodigo, this);
         m_lblCodigo->setObjectName(m_cfg.nomeRotuloCodigo);
-        m_txtCodigoCadastro = new CampoSelecionado(this);
-        m_txtCodigoCadastro->setObjectName(m_cfg.nomeCampoCodigo);
-        m_txtCodigoCadastro->setMaxLength(m_cfg.tamanhoCodigo);
+        // Codes refuse the special characters (the quotes among them), names the apostrophe.
+        m_txtCodigoCadastro =
+            &(new TextField(m_cfg.nomeCampoCodigo, m_cfg.tamanhoCodigo, this))->refuseSpecialCharacters();
         m_lblCodigo->setBuddy(m_txtCodigoCadastro);
         m_lblDescricao = new QLabel(m_cfg.rotuloDescricao, this);
         m_lblDescricao->setObjectName(m_cfg.nomeRotuloDescricao);
-        m_txtDescricaoCadastro = new CampoSelecionado(this);
-        m_txtDescricaoCadastro->setObjectName(m_cfg.nomeCampoDescricao);
-        m_txtDescricaoCadastro->setMaxLength(m_cfg.tamanhoDescricao);
+        m_txtDescricaoCadastro =
+            &(new TextField(m_cfg.nomeCampoDescricao, m_cfg.tamanhoDescricao, this))->refuseCharacters(QStringLiteral("'"));
         m_lblDescricao->setBuddy(m_txtDescricaoCadastro);
         // Room for the longest code and description the fields take.
         const int largura = fontMetrics().horizontalAdvance(QLatin1Char('W'));

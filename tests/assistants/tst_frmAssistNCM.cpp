@@ -197,7 +197,10 @@ private slots:
             auto* tela = qobject_cast<frmAssistNCM*>(QApplication::activeModalWidget());
             QVERIFY(tela);
             filtroRecebido = tela->txtCodigo->text();
-            selecionado = tela->txtCodigo->selectedText();
+            // The whole text is selected, blank places of the mask included.
+            selecionado = tela->txtCodigo->selectedText() == tela->txtCodigo->displayText()
+                              ? tela->txtCodigo->selectedText().trimmed()
+                              : QString();
             ConsultGrid* g = tela->grdAssistNCM;
             QTest::mouseDClick(g->viewport(), Qt::LeftButton, {}, g->visualRect(g->model()->index(1, 2)).center());
         });

@@ -466,6 +466,20 @@ private slots:
         QVERIFY(!tela.isVisible());
     }
 
+    // The double quote is refused in a product code; a letter with an accent isn't; a name drops the apostrophe.
+    void camposRecusamAsAspas_data() { faces_data(); }
+    void camposRecusamAsAspas()
+    {
+        QFETCH(bool, produto);
+        BancoTeste banco;
+        Cadastro c = abre(produto);
+        QTest::keyClicks(c.codigo, QStringLiteral("\"É'"));
+        QCOMPARE(c.codigo->text(), QStringLiteral("É"));
+        QTest::keyClicks(c.descricao, QStringLiteral("D'ÁGUA \"X\""));
+        QCOMPARE(c.descricao->text(), QStringLiteral("DÁGUA \"X\"").left(produto ? 45 : 20));
+        QTest::mouseClick(c.cancela, Qt::LeftButton);
+    }
+
     void camposTemOsTamanhosDaTela()
     {
         BancoTeste banco;
