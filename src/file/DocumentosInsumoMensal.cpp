@@ -10,14 +10,14 @@ DocumentosInsumoMensal::DocumentosInsumoMensal(const QString& id)
 {
     // Columns 0 and 1 are the input and the destination of the key; the rest follow the enums. A document
     // without an input or a destination is found by no lookup, as a comparison with Null finds nothing.
-    carrega(m_nfa,
+    carrega(&Grupo::nfa,
             QStringLiteral("SELECT CD_INT_INSUMO, CD_LOCAL_DESTINO, NR_CNPJ_FORNECEDOR, NR_SERIE_NF_AQUIS, "
                            "NR_NF_AQUIS, NR_ITEM_NF_AQUIS, DT_EMISS_NF_AQUIS, CD_CFOP_NF_AQUIS, IND_DL_288_67, "
                            "QT_INSUMO_UNID_INS, VL_INSUMO_UNID_INS, CD_INT_INSUMO, CD_LOCAL_DESTINO "
                            "FROM ITEM_NFA_INS_MEN WHERE ID_VRT_MICRO = ? AND CD_INT_INSUMO IS NOT NULL "
                            "AND CD_LOCAL_DESTINO IS NOT NULL ORDER BY ID_ITEM_NFA"),
             id, NfaDestino + 1);
-    carrega(m_di,
+    carrega(&Grupo::di,
             QStringLiteral("SELECT d.CD_INT_INSUMO, d.CD_LOCAL_DESTINO, d.NR_DI, d.NR_DI_ANTIGA, "
                            "CASE WHEN d.NR_DI_ANTIGA IS NULL THEN 'S' ELSE 'N' END, d.NR_ADICAO_DI, "
                            "d.NR_ITEM_ADICAO, d.IND_DL_288_67, d.QT_INSUMO_UNID_INS, m.VL_INSUMO_UNID_INS, "
@@ -28,7 +28,7 @@ DocumentosInsumoMensal::DocumentosInsumoMensal(const QString& id)
                            "d.ID_ITEM_DI) WHERE d.ID_VRT_MICRO = ? AND d.CD_INT_INSUMO IS NOT NULL "
                            "AND d.CD_LOCAL_DESTINO IS NOT NULL ORDER BY d.ID_ITEM_DI"),
             id, DiSuspensao + 1);
-    carrega(m_dsi,
+    carrega(&Grupo::dsi,
             QStringLiteral("SELECT CD_INT_INSUMO, CD_LOCAL_DESTINO, NR_DSI, NR_DSI_ANTIGA, NR_BEM, "
                            "QT_INSUMO_UNID_INS, CD_INT_INSUMO, CD_LOCAL_DESTINO, VL_PROD_UNID_PROD, CD_MOEDA_NEG, "
                            "VL_FRETE_UNID_INT, CD_MOEDA_FRETE, VL_SEGURO_UNID_INT, CD_MOEDA_SEGURO, "
@@ -42,8 +42,7 @@ QString DocumentosInsumoMensal::chave(const QString& insumo, const QString& dest
     return insumo + QChar(0x1F) + destino;
 }
 
-void DocumentosInsumoMensal::carrega(QHash<QString, Linhas>& mapa, const QString& sql, const QString& id,
-                                     int colunas)
+void DocumentosInsumoMensal::carrega(Linhas Grupo::*tipo, const QString& sql, const QString& id, int colunas)
 {
     QSqlQuery rs(ConexaoBanco());
     rs.setForwardOnly(true);
@@ -53,29 +52,12 @@ void DocumentosInsumoMensal::carrega(QHash<QString, Linhas>& mapa, const QString
         linha.reserve(colunas);
         for (int c = 0; c < colunas; ++c)
             linha.append(rs.value(c + 2).toString());
-        mapa[chave(rs.value(0).toString(), rs.value(1).toString())].append(linha);
+        (m_grupos[chave(rs.value(0).toString(), rs.value(1).toString())].*tipo).append(linha);
     }
 }
 
-const DocumentosInsumoMensal::Linhas& DocumentosInsumoMensal::procura(const QHash<QString, Linhas>& mapa,
-                                                                      const QString& insumo,
-                                                                      const QString& destino) const
+const DocumentosInsumoMensal::Grupo& DocumentosInsumoMensal::de(const QString& insumo, const QString& destino) const
 {
-    const auto it = mapa.constFind(chave(insumo, destino));
-    return it == mapa.constEnd() ? m_vazio : it.value();
-}
-
-const DocumentosInsumoMensal::Linhas& DocumentosInsumoMensal::nfa(const QString& insumo, const QString& destino) const
-{
-    return procura(m_nfa, insumo, destino);
-}
-
-const DocumentosInsumoMensal::Linhas& DocumentosInsumoMensal::di(const QString& insumo, const QString& destino) const
-{
-    return procura(m_di, insumo, destino);
-}
-
-const DocumentosInsumoMensal::Linhas& DocumentosInsumoMensal::dsi(const QString& insumo, const QString& destino) const
-{
-    return procura(m_dsi, insumo, destino);
+    const auto it = m_grupos.constFind(chave(insumo, destino));
+    return it == m_grupos.constEnd() ? m_vazio : it.value();
 }

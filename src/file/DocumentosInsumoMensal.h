@@ -12,10 +12,14 @@ public:
     explicit DocumentosInsumoMensal(const QString& idVrtMicro);
 
     using Linhas = QVector<QStringList>;
-    // Rows in the order they were made; the columns are those of the queries in the .cpp (enums below).
-    const Linhas& nfa(const QString& insumo, const QString& destino) const;
-    const Linhas& di(const QString& insumo, const QString& destino) const;
-    const Linhas& dsi(const QString& insumo, const QString& destino) const;
+    // The documents of one input at one destination, each kind in the order its rows were made; the columns
+    // are those of the queries in the .cpp (enums below).
+    struct Grupo {
+        Linhas nfa;
+        Linhas di;
+        Linhas dsi;
+    };
+    const Grupo& de(const QString& insumo, const QString& destino) const;
 
     enum ColunaNfa { NfaCnpj, NfaSerie, NfaNumero, NfaItem, NfaData, NfaCfop, NfaDl288, NfaQuantidade, NfaValor,
                      NfaInsumo, NfaDestino };
@@ -26,11 +30,8 @@ public:
 
 private:
     static QString chave(const QString& insumo, const QString& destino);
-    static void carrega(QHash<QString, Linhas>& destino, const QString& sql, const QString& id, int colunas);
-    const Linhas& procura(const QHash<QString, Linhas>& mapa, const QString& insumo, const QString& destino) const;
+    void carrega(Linhas Grupo::*tipo, const QString& sql, const QString& id, int colunas);
 
-    QHash<QString, Linhas> m_nfa;
-    QHash<QString, Linhas> m_di;
-    QHash<QString, Linhas> m_dsi;
-    Linhas m_vazio;
+    QHash<QString, Grupo> m_grupos;
+    Grupo m_vazio;
 };

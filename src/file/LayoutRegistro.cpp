@@ -3,6 +3,8 @@
 #include "file/LayoutTabelas.h"
 
 #include <QHash>
+
+#include <array>
 #include <QtGlobal>
 
 int CampoLayout::casas() const
@@ -86,6 +88,24 @@ const LayoutRegistro& LayoutRegistro::de(TipoDeclaracao declaracao, const QStrin
     const LayoutRegistro* r = procura(declaracao, tipo);
     if (!r)
         qFatal("Tipo de registro desconhecido: %s", qPrintable(tipo));
+    return *r;
+}
+
+const LayoutRegistro& LayoutRegistro::de(TipoDeclaracao declaracao, int tipo)
+{
+    static const auto monta = [](TipoDeclaracao d) {
+        std::array<const LayoutRegistro*, 100> v{};
+        for (const QString& t : tipos())
+            v[t.toInt()] = procura(d, t);
+        return v;
+    };
+    static const std::array<const LayoutRegistro*, 100> mensal = monta(TipoDeclaracao::Mensal);
+    static const std::array<const LayoutRegistro*, 100> individual = monta(TipoDeclaracao::Individual);
+    const LayoutRegistro* r = (tipo >= 0 && tipo < 100)
+                                  ? (declaracao == TipoDeclaracao::Mensal ? mensal : individual)[tipo]
+                                  : nullptr;
+    if (!r)
+        qFatal("Tipo de registro desconhecido: %d", tipo);
     return *r;
 }
 

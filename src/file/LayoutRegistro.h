@@ -70,6 +70,8 @@ public:
 
     // The layout of a record type for a declaration type; an unknown type is a programming error (qFatal).
     static const LayoutRegistro& de(TipoDeclaracao declaracao, const QString& tipo);
+    // The same by number (11 for "11"), without building a text: for writers that ask once per record.
+    static const LayoutRegistro& de(TipoDeclaracao declaracao, int tipo);
     // The same, or nullptr for a type the format does not have.
     static const LayoutRegistro* procura(TipoDeclaracao declaracao, const QString& tipo);
     // Every record type of the format, in the order of the head records and then by number.

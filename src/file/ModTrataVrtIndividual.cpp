@@ -22,9 +22,9 @@ const QString S = QStringLiteral("S");
 const QString N = QStringLiteral("N");
 const QString Branco = QStringLiteral(" ");
 
-const LayoutRegistro& layout(const char* tipo)
+const LayoutRegistro& layout(int tipo)
 {
-    return LayoutRegistro::de(TipoDeclaracao::Individual, QString::fromLatin1(tipo));
+    return LayoutRegistro::de(TipoDeclaracao::Individual, tipo);
 }
 
 // A column taken only where it differs from one blank (a Null is not taken either).
@@ -49,7 +49,7 @@ public:
     void escreveItens();
 
 private:
-    LinhaRegistro comItem(const char* tipo, const QSqlQuery& item) const;
+    LinhaRegistro comItem(int tipo, const QSqlQuery& item) const;
     void produtoEstrangeiro(const QSqlQuery& item);
     void registro12(qint64 item);
     void registro13(qint64 item);
@@ -178,7 +178,7 @@ void EscritaIndividual::escreveItens()
     }
 }
 
-LinhaRegistro EscritaIndividual::comItem(const char* tipo, const QSqlQuery& item) const
+LinhaRegistro EscritaIndividual::comItem(int tipo, const QSqlQuery& item) const
 {
     LinhaRegistro r(layout(tipo));
     r.poe(QStringLiteral("NR_ITEM_NF_SAIDA"), item.value(ItNrItem).toString());
@@ -187,7 +187,7 @@ LinhaRegistro EscritaIndividual::comItem(const char* tipo, const QSqlQuery& item
 
 void EscritaIndividual::produtoEstrangeiro(const QSqlQuery& item)
 {
-    LinhaRegistro r = comItem("11", item);
+    LinhaRegistro r = comItem(11, item);
     r.poe(QStringLiteral("CD_NCM_PROD"), item.value(ItNcm).toString());
     r.poe(QStringLiteral("CD_INT_PROD"), item.value(ItCodigo).toString());
     r.poe(QStringLiteral("CD_LOCAL_DESTINO"), m_cab.destino);
@@ -213,7 +213,7 @@ void EscritaIndividual::registro12(qint64 item)
     enum { Cnpj = 1, Serie, Numero, ItemNf, Data, Cfop, Dl288, Obsoleto, Quantidade, Valor, ValorTotal };
     for (; m_nfa->de(item); m_nfa->avanca()) {
         const CursorFilhos& x = *m_nfa;
-        LinhaRegistro r(layout("12"));
+        LinhaRegistro r(layout(12));
         r.poe(QStringLiteral("NR_CNPJ_FORNECEDOR"), x.texto(Cnpj));
         r.poe(QStringLiteral("NR_SERIE_NF_AQUIS"), x.texto(Serie));
         r.poe(QStringLiteral("NR_NF_AQUIS"), x.texto(Numero));
@@ -237,7 +237,7 @@ void EscritaIndividual::registro13(qint64 item)
            Seguro, MoedaSeguro, ValorTotal, Suspensao };
     for (; m_di->de(item); m_di->avanca()) {
         const CursorFilhos& x = *m_di;
-        LinhaRegistro r(layout("13"));
+        LinhaRegistro r(layout(13));
         r.poe(QStringLiteral("NR_DI"), x.texto(Numero) == Branco ? QString() : x.texto(Numero));
         r.poe(QStringLiteral("NR_DI_ANTIGA"), x.texto(Antiga) == Branco ? QString() : x.texto(Antiga));
         r.poe(QStringLiteral("NR_ADICAO_DI"), x.texto(Adicao));
@@ -268,7 +268,7 @@ void EscritaIndividual::registro14(qint64 item)
     enum { Numero = 1, Antiga, Bem, Quantidade, Valor, Moeda, Frete, MoedaFrete, Seguro, MoedaSeguro, Suspensao };
     for (; m_dsi->de(item); m_dsi->avanca()) {
         const CursorFilhos& x = *m_dsi;
-        LinhaRegistro r(layout("14"));
+        LinhaRegistro r(layout(14));
         r.poe(QStringLiteral("NR_DSI"), x.texto(Numero));
         r.poe(QStringLiteral("NR_DSI_ANTIGA"), x.texto(Antiga));
         r.poe(QStringLiteral("NR_BEM"), x.texto(Bem));
@@ -289,7 +289,7 @@ void EscritaIndividual::registro14(qint64 item)
 void EscritaIndividual::produtoComPPB(const QSqlQuery& item)
 {
     const QString tipo = item.value(CpTipo).toString();
-    LinhaRegistro r = comItem("21", item);
+    LinhaRegistro r = comItem(21, item);
     r.poe(QStringLiteral("CD_LOCAL_DESTINO"), m_cab.destino);
     r.poe(QStringLiteral("CD_INT_PROD"), item.value(ItCodigo).toString());
     r.poe(QStringLiteral("NM_INT_PROD"), item.value(ItNome).toString());
@@ -311,7 +311,7 @@ void EscritaIndividual::produtoComPPB(const QSqlQuery& item)
 
 void EscritaIndividual::produtoSemPPB(const QSqlQuery& item)
 {
-    LinhaRegistro r = comItem("31", item);
+    LinhaRegistro r = comItem(31, item);
     r.poe(QStringLiteral("CD_INT_PROD"), item.value(ItCodigo).toString());
     r.poe(QStringLiteral("NM_INT_PROD"), item.value(ItNome).toString());
     r.poe(QStringLiteral("NM_UNID_MED_PROD"), item.value(ItUnidade).toString());
@@ -329,7 +329,7 @@ void EscritaIndividual::produtoSemPPB(const QSqlQuery& item)
     const qint64 idItem = item.value(ItId).toLongLong();
     for (; m_insumos->de(idItem); m_insumos->avanca()) {
         const CursorFilhos& x = *m_insumos;
-        LinhaRegistro r32 = comItem("32", item);
+        LinhaRegistro r32 = comItem(32, item);
         r32.poe(QStringLiteral("CD_INT_PROD"), item.value(ItCodigo).toString());
         r32.poe(QStringLiteral("CD_INT_INSUMO"), x.texto(Codigo));
         r32.poe(QStringLiteral("CD_NCM_INSUMO"), x.texto(Ncm));
@@ -338,7 +338,7 @@ void EscritaIndividual::produtoSemPPB(const QSqlQuery& item)
         r32.poe(QStringLiteral("QT_INSUMO_POR_PROD"), x.texto(Quantidade));
         m_saida.escreve(r32);
 
-        LinhaRegistro r33 = comItem("33", item);
+        LinhaRegistro r33 = comItem(33, item);
         r33.poe(QStringLiteral("CD_INT_INSUMO"), x.texto(Codigo));
         r33.poe(QStringLiteral("QT_TOT_INS"), m_totalInsumo.value(x.texto(Codigo)));
         r33.poe(QStringLiteral("CD_LOCAL_DESTINO"), m_cab.destino);
@@ -360,7 +360,7 @@ void EscritaIndividual::registro34(qint64 insumo)
     enum { Cnpj = 1, Serie, Numero, ItemNf, Data, Cfop, Dl288, Quantidade, Valor };
     for (; m_nfaIns->de(insumo); m_nfaIns->avanca()) {
         const CursorFilhos& x = *m_nfaIns;
-        LinhaRegistro r(layout("34"));
+        LinhaRegistro r(layout(34));
         r.poe(QStringLiteral("NR_CNPJ_FORNECEDOR"), x.texto(Cnpj));
         r.poe(QStringLiteral("NR_SERIE_NF_AQUIS"), x.texto(Serie));
         r.poe(QStringLiteral("NR_NF_AQUIS"), x.texto(Numero));
@@ -380,7 +380,7 @@ void EscritaIndividual::registro35(qint64 insumo)
            MoedaSeguro, Suspensao };
     for (; m_diIns->de(insumo); m_diIns->avanca()) {
         const CursorFilhos& x = *m_diIns;
-        LinhaRegistro r(layout("35"));
+        LinhaRegistro r(layout(35));
         r.poe(QStringLiteral("NR_DI"), x.texto(Numero) == Branco ? QString() : x.texto(Numero));
         r.poe(QStringLiteral("NR_DI_ANTIGA"), x.texto(Antiga) == Branco ? QString() : x.texto(Antiga));
         r.poe(QStringLiteral("NR_ADICAO_DI"), x.texto(Adicao));
@@ -405,7 +405,7 @@ void EscritaIndividual::registro36(qint64 insumo)
     enum { Numero = 1, Antiga, Bem, Quantidade, Valor, Moeda, Frete, MoedaFrete, Seguro, MoedaSeguro, Suspensao };
     for (; m_dsiIns->de(insumo); m_dsiIns->avanca()) {
         const CursorFilhos& x = *m_dsiIns;
-        LinhaRegistro r(layout("36"));
+        LinhaRegistro r(layout(36));
         r.poe(QStringLiteral("NR_DSI"), x.texto(Numero) == Branco ? QString() : x.texto(Numero));
         r.poe(QStringLiteral("NR_DSI_ANTIGA"), x.texto(Antiga) == Branco ? QString() : x.texto(Antiga));
         r.poe(QStringLiteral("NR_BEM"), x.texto(Bem));
@@ -424,7 +424,7 @@ void EscritaIndividual::registro36(qint64 insumo)
 
 void EscritaIndividual::produtoNacional(const QSqlQuery& item)
 {
-    LinhaRegistro r = comItem("41", item);
+    LinhaRegistro r = comItem(41, item);
     r.poe(QStringLiteral("CD_NCM_PROD"), item.value(ItNcm).toString());
     r.poe(QStringLiteral("CD_INT_PROD"), item.value(ItCodigo).toString());
     r.poe(QStringLiteral("NM_INT_PROD"), item.value(ItNome).toString());

@@ -53,7 +53,8 @@ void SaidaVrt::abre(const QString& caminho)
 {
     abandona();
     m_coluna = 1;
-    m_buffer.clear();
+    m_buffer.resize(0);
+    m_buffer.reserve(TamanhoBuffer + 4096);
     // Opened without truncating, so that a file another program is using is left untouched when it is refused.
     const QByteArray nome = QFile::encodeName(caminho);
     const int fd = ::open(nome.constData(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
@@ -82,7 +83,7 @@ void SaidaVrt::abre(const QString& caminho)
 
 void SaidaVrt::escreve(const LinhaRegistro& linha)
 {
-    m_texto.clear();
+    m_texto.resize(0);
     // The next record begins at column 1: a line left open by a record without its own line end ends here.
     if (m_coluna > 1) {
         m_texto += QLatin1String("\r\n");
@@ -93,9 +94,27 @@ void SaidaVrt::escreve(const LinhaRegistro& linha)
         m_texto += QLatin1String("\r\n");
         m_coluna = 1;
     }
-    m_buffer += m_cp1252.encode(m_texto);
+    acrescentaCp1252(m_texto);
     if (m_buffer.size() >= TamanhoBuffer)
         descarrega();
+}
+
+void SaidaVrt::acrescentaCp1252(const QString& texto)
+{
+    // Windows-1252 is Latin-1 outside 0x80-0x9F: such text, nearly every record, is copied byte by byte; any
+    // other goes through the converter.
+    const qsizetype inicio = m_buffer.size();
+    m_buffer.resize(inicio + texto.size());
+    char* destino = m_buffer.data() + inicio;
+    for (const QChar c : texto) {
+        const char16_t u = c.unicode();
+        if (u >= 0x100 || (u >= 0x80 && u < 0xA0)) {
+            m_buffer.resize(inicio);
+            m_buffer += m_cp1252.encode(texto);
+            return;
+        }
+        *destino++ = static_cast<char>(u);
+    }
 }
 
 void SaidaVrt::descarrega()
@@ -108,13 +127,13 @@ void SaidaVrt::descarrega()
             if (errno == EINTR)
                 continue;
             const int codigo = errno;
-            m_buffer.clear();
+            m_buffer.resize(0);
             throw erroDoSistema(codigo);
         }
         dados += n;
         resta -= n;
     }
-    m_buffer.clear();
+    m_buffer.resize(0);
 }
 
 void SaidaVrt::fecha()
@@ -139,5 +158,5 @@ void SaidaVrt::abandona()
     }
     ::close(m_fd);
     m_fd = -1;
-    m_buffer.clear();
+    m_buffer.resize(0);
 }

@@ -38,6 +38,7 @@ public:
 
 private:
     void descarrega();
+    void acrescentaCp1252(const QString& texto);
 
     int m_fd = -1;
     int m_coluna = 1;

@@ -24,9 +24,9 @@ const QString S = QStringLiteral("S");
 const QString N = QStringLiteral("N");
 const QString Branco = QStringLiteral(" ");
 
-const LayoutRegistro& layout(const char* tipo)
+const LayoutRegistro& layout(int tipo)
 {
-    return LayoutRegistro::de(TipoDeclaracao::Mensal, QString::fromLatin1(tipo));
+    return LayoutRegistro::de(TipoDeclaracao::Mensal, tipo);
 }
 
 // Columns of the item query.
@@ -167,7 +167,7 @@ QVector<Destino> EscritaMensal::destinosDoItem(qint64 item)
 void EscritaMensal::produtoEstrangeiro(const QSqlQuery& item, const QVector<Destino>& destinos)
 {
     for (const Destino& d : destinos) {
-        LinhaRegistro r(layout("11"));
+        LinhaRegistro r(layout(11));
         r.poe(QStringLiteral("CD_NCM_PRODUTO"), item.value(ItNcm).toString());
         r.poe(QStringLiteral("CD_INT_PRODUTO"), item.value(ItCodigo).toString());
         r.poe(QStringLiteral("CD_LOCAL_DESTINO"), d.codigo);
@@ -192,7 +192,7 @@ void EscritaMensal::registro12(qint64 destino)
     enum { Cnpj = 1, Serie, Numero, ItemNf, Data, Cfop, Dl288, Obsoleto, Quantidade, Valor, ValorObsoleto };
     for (; m_nfa->de(destino); m_nfa->avanca()) {
         const CursorFilhos& x = *m_nfa;
-        LinhaRegistro r(layout("12"));
+        LinhaRegistro r(layout(12));
         r.poe(QStringLiteral("NR_CNPJ_FORNECEDOR"), x.texto(Cnpj));
         r.poe(QStringLiteral("NR_SERIE_NF_AQUIS"), x.texto(Serie));
         r.poe(QStringLiteral("NR_NF_AQUIS"), x.texto(Numero));
@@ -219,7 +219,7 @@ void EscritaMensal::registro13(qint64 destino)
         const QString obsoleto = x.texto(Obsoleto);
         // The individual writer reads this working value later in the run.
         m_run.obsoleResiduoMensal = obsoleto;
-        LinhaRegistro r(layout("13"));
+        LinhaRegistro r(layout(13));
         r.poe(QStringLiteral("NR_DI"), x.texto(Numero));
         r.poe(QStringLiteral("NR_DI_ANTIGA"), x.texto(Antiga));
         r.poe(QStringLiteral("NR_ADICAO_DI"), x.texto(Adicao));
@@ -247,7 +247,7 @@ void EscritaMensal::registro14(qint64 destino)
     enum { Numero = 1, Antiga, Bem, Quantidade, Valor, Moeda, Frete, MoedaFrete, Seguro, MoedaSeguro, Suspensao };
     for (; m_dsi->de(destino); m_dsi->avanca()) {
         const CursorFilhos& x = *m_dsi;
-        LinhaRegistro r(layout("14"));
+        LinhaRegistro r(layout(14));
         r.poe(QStringLiteral("NR_DSI"), x.texto(Numero));
         r.poe(QStringLiteral("NR_DSI_ANTIGA"), x.texto(Antiga));
         r.poe(QStringLiteral("NR_BEM"), x.texto(Bem));
@@ -270,7 +270,7 @@ void EscritaMensal::produtoComPPB(const QSqlQuery& item, const QVector<Destino>&
     const QString tipo = item.value(ItTipoCoef).toString();
     const QString numero = item.value(ItNrDcreDcr).toString();
     for (const Destino& d : destinos) {
-        LinhaRegistro r(layout("21"));
+        LinhaRegistro r(layout(21));
         r.poe(QStringLiteral("CD_LOCAL_DESTINO"), d.codigo);
         if (tipo == QLatin1String("1"))
             r.poe(QStringLiteral("NR_DCRE"), numero);
@@ -324,7 +324,7 @@ void EscritaMensal::preparaInsumos()
 
 void EscritaMensal::produtoSemPPB(const QSqlQuery& item, const QVector<Destino>& destinos)
 {
-    LinhaRegistro r(layout("31"));
+    LinhaRegistro r(layout(31));
     r.poe(QStringLiteral("CD_INT_PRODUTO"), item.value(ItCodigo).toString());
     r.poe(QStringLiteral("NM_INT_PRODUTO"), item.value(ItNome).toString());
     r.poe(QStringLiteral("NM_UNID_MED_PROD"), item.value(ItUnidade).toString());
@@ -345,7 +345,7 @@ void EscritaMensal::insumo(const QSqlQuery& item, const QVector<Destino>& destin
     for (; m_insumos->de(idItem); m_insumos->avanca()) {
         const CursorFilhos& x = *m_insumos;
         const QString codigo = x.texto(Codigo);
-        LinhaRegistro r(layout("32"));
+        LinhaRegistro r(layout(32));
         r.poe(QStringLiteral("CD_INT_PRODUTO"), item.value(ItCodigo).toString());
         r.poe(QStringLiteral("CD_INT_INSUMO"), codigo);
         r.poe(QStringLiteral("CD_NCM_INSUMO"), x.texto(Ncm));
@@ -354,7 +354,7 @@ void EscritaMensal::insumo(const QSqlQuery& item, const QVector<Destino>& destin
         r.poe(QStringLiteral("QT_INSUMO_POR_PROD"), x.texto(Quantidade));
         m_saida.escreve(r);
 
-        LinhaRegistro base(layout("33"));
+        LinhaRegistro base(layout(33));
         base.poe(QStringLiteral("CD_INT_INSUMO"), codigo);
         base.poe(QStringLiteral("QT_TOT_INS_EST"), m_totalInsumo.value(codigo));
         // Each pair is taken only where its aliquot is there and is not one blank.
@@ -386,8 +386,9 @@ void EscritaMensal::insumo(const QSqlQuery& item, const QVector<Destino>& destin
 void EscritaMensal::documentosDoInsumo(const QString& insumo, const QString& destino)
 {
     using D = DocumentosInsumoMensal;
-    for (const QStringList& x : m_docsInsumo->nfa(insumo, destino)) {
-        LinhaRegistro r(layout("34"));
+    const D::Grupo& documentos = m_docsInsumo->de(insumo, destino);
+    for (const QStringList& x : documentos.nfa) {
+        LinhaRegistro r(layout(34));
         r.poe(QStringLiteral("NR_CNPJ_FORNECEDOR"), x.at(D::NfaCnpj));
         r.poe(QStringLiteral("NR_SERIE_NF_AQUIS"), x.at(D::NfaSerie));
         r.poe(QStringLiteral("NR_NF_AQUIS"), x.at(D::NfaNumero));
@@ -401,8 +402,8 @@ void EscritaMensal::documentosDoInsumo(const QString& insumo, const QString& des
         r.poe(QStringLiteral("CD_LOCAL_DESTINO"), x.at(D::NfaDestino));
         m_saida.escreve(r);
     }
-    for (const QStringList& x : m_docsInsumo->di(insumo, destino)) {
-        LinhaRegistro r(layout("35"));
+    for (const QStringList& x : documentos.di) {
+        LinhaRegistro r(layout(35));
         QString nrDi = x.at(D::DiNumero) == Branco ? QStringLiteral("0000000000")
                                                    : LinhaRegistro::formata(r.layout().campo(QStringLiteral("NR_DI")),
                                                                             x.at(D::DiNumero));
@@ -433,8 +434,8 @@ void EscritaMensal::documentosDoInsumo(const QString& insumo, const QString& des
         r.poe(QStringLiteral("IND_SUSP_PIS_COFINS"), x.at(D::DiSuspensao));
         m_saida.escreve(r);
     }
-    for (const QStringList& x : m_docsInsumo->dsi(insumo, destino)) {
-        LinhaRegistro r(layout("36"));
+    for (const QStringList& x : documentos.dsi) {
+        LinhaRegistro r(layout(36));
         r.poe(QStringLiteral("NR_DSI"), x.at(D::DsiNumero) == Branco ? QString() : x.at(D::DsiNumero));
         r.poe(QStringLiteral("NR_DSI_ANTIGA"), x.at(D::DsiAntiga) == Branco ? QString() : x.at(D::DsiAntiga));
         r.poe(QStringLiteral("NR_BEM"), x.at(D::DsiBem));
@@ -456,7 +457,7 @@ void EscritaMensal::documentosDoInsumo(const QString& insumo, const QString& des
 
 void EscritaMensal::produtoNacional(const QSqlQuery& item)
 {
-    LinhaRegistro r(layout("41"));
+    LinhaRegistro r(layout(41));
     r.poe(QStringLiteral("CD_NCM_PRODUTO"), item.value(ItNcm).toString());
     r.poe(QStringLiteral("CD_INT_PRODUTO"), item.value(ItCodigo).toString());
     r.poe(QStringLiteral("NM_INT_PRODUTO"), item.value(ItNome).toString());
