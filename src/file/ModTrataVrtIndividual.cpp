@@ -245,7 +245,7 @@ void EscritaIndividual::registro13(qint64 item)
         r.poe(QStringLiteral("IND_DL_288_67"), x.texto(Dl288));
         r.poe(QStringLiteral("IND_OBSOLE_RESIDUO"), x.texto(Obsoleto));
         r.poe(QStringLiteral("QT_PROD_UNID_NFS"), x.texto(Quantidade));
-        // The suspension of PIS/COFINS plays no part here, unlike the monthly record 13.
+        // The suspension of PIS/COFINS does not count here, unlike the monthly record 13.
         if (x.texto(Dl288) == S && x.texto(Obsoleto) == N) {
             r.poe(QStringLiteral("VL_INS_PROD_UNID_NFS"), x.texto(Valor));
             r.poe(QStringLiteral("CD_MOEDA_NEG"), x.texto(Moeda));
