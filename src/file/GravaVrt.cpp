@@ -53,7 +53,12 @@ void GravacaoVrt::conclui()
 ResultadoGravacao GravaVrt(const QStringList& identificacoes, const QString& pastaDestino, ModoGravacao modo)
 {
     GravacaoVrt run(pastaDestino, modo);
-    for (const QString& id : identificacoes)
+    QStringList ids = identificacoes;
+    ids.removeAll(QString());
+    // Nothing chosen: nothing happens, not even the closing message.
+    if (ids.isEmpty())
+        return run.resultado();
+    for (const QString& id : ids)
         run.grava(id);
     run.conclui();
     return run.resultado();

@@ -50,5 +50,6 @@ private:
     ResultadoGravacao m_resultado;
 };
 
-// Writes the declarations in the order given and shows the run's one message.
+// Writes the declarations in the order given and shows the run's one message. Empty identifications are left
+// out; with none left nothing happens and no message is shown.
 ResultadoGravacao GravaVrt(const QStringList& identificacoes, const QString& pastaDestino, ModoGravacao modo);

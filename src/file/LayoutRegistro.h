@@ -3,7 +3,7 @@
 // the writers, the readers and the checker alike, so that a position is written down once.
 //
 // How to use it:
-//   const LayoutRegistro& r = LayoutRegistro::de(TipoDeclaracao::Mensal, QStringLiteral("13"));
+//   const LayoutRegistro& r = LayoutRegistro::de(TipoDeclaracao::Mensal, QStringLiteral("13"));  // or 13
 //   const CampoLayout& di = r.campo(QStringLiteral("NR_DI"));   // di.posicao (from 1), di.tamanho, di.tipo
 //   QString texto = di.de(linha);                               // the field's characters in a line
 //   for (const CampoLayout& c : r.campos) ...                   // every field in column order, fillers included

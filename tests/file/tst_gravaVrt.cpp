@@ -23,6 +23,7 @@ private slots:
     void arquivoExistenteESubstituidoSemPergunta();
     void identificacaoSemDeclaracaoEIgnorada();
     void nenhumaIdentificacaoSoMostraAMensagem();
+    void semIdentificacaoNadaAcontece();
     void gravarNaoAlteraOBanco();
     void textoSaiEmWindows1252();
     void falhaDeArquivo_data();
@@ -192,6 +193,18 @@ void tst_gravaVrt::nenhumaIdentificacaoSoMostraAMensagem()
     // Without a row, the run still ends with its message: nothing failed.
     GravaVrt({QStringLiteral("00099/09")}, pasta.path(), ModoGravacao::Backup);
     QCOMPARE(msgs.textos(), QStringList{QStringLiteral("Backup realizado com sucesso.")});
+    QVERIFY(QDir(pasta.path()).entryList(QDir::Files).isEmpty());
+}
+
+void tst_gravaVrt::semIdentificacaoNadaAcontece()
+{
+    BancoTeste banco;
+    insereMensal(QStringLiteral("00001/09"));
+    QTemporaryDir pasta;
+    MensagensRoteiro msgs;
+    GravaVrt({}, pasta.path(), ModoGravacao::Transmissao);
+    GravaVrt({QString()}, pasta.path(), ModoGravacao::Backup);
+    QVERIFY(msgs.caixas.isEmpty());
     QVERIFY(QDir(pasta.path()).entryList(QDir::Files).isEmpty());
 }
 
