@@ -29,7 +29,7 @@ QSqlQuery& ComandosPreparados::roda(const char* sql, const QVariantList& valores
     for (int i = 0; i < valores.size(); ++i) {
         const QVariant& v = valores.at(i);
         // A null QString would be bound as NULL; the reader stores empty fields as empty texts.
-        if (v.typeId() == QMetaType::QString && v.toString().isNull())
+        if (v.typeId() == QMetaType::QString && static_cast<const QString*>(v.constData())->isNull())
             q.bindValue(i, QString(QLatin1String("")));
         else
             q.bindValue(i, v);

@@ -224,6 +224,11 @@ private slots:
         QCOMPARE(backup.at(9), '3');
         QCOMPARE(backup.mid(10), transmissao.mid(10));
 
+        // What the program writes passes the check.
+        e = roda({t("verificar"), nome}, false);
+        QCOMPARE(e.status, 0);
+        QCOMPARE(e.saida, t("Nenhum problema encontrado (5 registros).\n"));
+
         e = roda({t("gravar"), t("99999/99"), t("--pasta"), pasta});
         QCOMPARE(e.status, 1);
         QVERIFY(e.erros.contains(t("vrt-cli: identificação não encontrada: 99999/99\n")));
