@@ -302,6 +302,23 @@ private slots:
         QCOMPARE(um(t("SELECT NM_INT_PRODUTO FROM ITEM_VRT_MEN")), pad(nome, 45));
     }
 
+    void registro35QuebradoParaNaSegundaMetade()
+    {
+        // The old writer's record 35 with NR_DI_ANTIGA Null: 15 zeros where NR_DI goes, and the rest of the
+        // record on a new line from column 13. The first half is a short record 35, which passes; the second
+        // begins with blanks and stops the reading.
+        MensagensRoteiro msgs;
+        msgs.responde(Msg::OK);
+        const QString r35 = ArquivoTeste::r35(t("I1"));
+        QVERIFY(!le({r31(t("P3"), t("Placa"), t("UN"), t("00000000010000"), t("00000000000000"), t("00000000000000"),
+                         t("00000000000000")),
+                     r32(t("P3"), t("I1"), t("Parafuso"), t("UN")), t("35") + QString(15, QLatin1Char('0')),
+                     QString(12, QLatin1Char(' ')) + r35.mid(12)}));
+        QCOMPARE(msgs.textos(), QStringList{t("Registro inesperado")});
+        QCOMPARE(BancoTeste::conta(t("VRT")), 0);
+        QCOMPARE(BancoTeste::conta(t("ITEM_DI_INS_MEN")), 0);
+    }
+
     void registro12AntesDeQualquer11EncerraSemDeixarNada()
     {
         MensagensRoteiro msgs;
