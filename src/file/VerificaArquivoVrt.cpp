@@ -51,18 +51,20 @@ bool VerificaArquivoVrt::verifica(const QString& caminho)
         problema(0, s("Não foi possível abrir o arquivo ") + caminho + s("."));
         return false;
     }
-    QStringList linhas;
-    while (!arquivo.fim())
-        linhas << arquivo.proxima();
-    m_linhas = linhas.size();
-    if (linhas.isEmpty()) {
+    // The head records are kept; the item records are checked one at a time, so that a large file is never
+    // held whole as text.
+    QStringList cabecalho;
+    while (!arquivo.fim() && cabecalho.size() < 4)
+        cabecalho << arquivo.proxima();
+    m_linhas = cabecalho.size();
+    if (cabecalho.isEmpty()) {
         problema(0, s("Erro - Arquivo sem registros!"));
         return true;
     }
-    verificaCabecalho(linhas);
-    const TipoDeclaracao declaracao = linhas.at(0).mid(15, 1) == s("1") ? TipoDeclaracao::Individual
-                                                                        : TipoDeclaracao::Mensal;
-    verificaItens(linhas, declaracao);
+    verificaCabecalho(cabecalho);
+    const TipoDeclaracao declaracao = cabecalho.at(0).mid(15, 1) == s("1") ? TipoDeclaracao::Individual
+                                                                           : TipoDeclaracao::Mensal;
+    verificaItens(arquivo, declaracao);
     return true;
 }
 
@@ -115,7 +117,7 @@ void VerificaArquivoVrt::verificaCabecalho(const QStringList& linhas)
     }
 }
 
-void VerificaArquivoVrt::verificaItens(const QStringList& linhas, TipoDeclaracao declaracao)
+void VerificaArquivoVrt::verificaItens(LinhasArquivo& arquivo, TipoDeclaracao declaracao)
 {
     static const QSet<QString> tipos = {s("11"), s("12"), s("13"), s("14"), s("21"), s("31"),
                                         s("32"), s("33"), s("34"), s("35"), s("36"), s("41")};
@@ -125,9 +127,9 @@ void VerificaArquivoVrt::verificaItens(const QStringList& linhas, TipoDeclaracao
     bool insumo = false;  // a record 32 is open
     int documento = 0;    // 12, 13 or 14: the last document of the open record 11
     int modalidade = 0;   // monthly files sort their items by modality
-    for (int i = 4; i < linhas.size(); ++i) {
-        const int numero = i + 1;
-        const QString& l = linhas.at(i);
+    while (!arquivo.fim()) {
+        const int numero = ++m_linhas;
+        const QString l = arquivo.proxima();
         const QString tipo = l.left(2);
         if (!tipos.contains(tipo)) {
             problema(numero, s("Registro inesperado") + s(" (tipo \"") + tipo + s("\")"), 1, 2);

@@ -9,6 +9,8 @@
 #include <QString>
 #include <QStringList>
 
+class LinhasArquivo;
+
 struct ProblemaArquivo {
     int linha = 0;         // counted from 1; 0 for the file as a whole
     int posicaoInicial = 0;  // 0 when the problem is the whole line
@@ -28,7 +30,7 @@ public:
 
 private:
     void verificaCabecalho(const QStringList& linhas);
-    void verificaItens(const QStringList& linhas, TipoDeclaracao declaracao);
+    void verificaItens(LinhasArquivo& arquivo, TipoDeclaracao declaracao);
     void verificaCampos(int numero, const QString& linha, const LayoutRegistro& layout);
     void problema(int linha, const QString& descricao, int inicio = 0, int fim = 0, const QString& campo = QString());
     QList<ProblemaArquivo> m_problemas;
