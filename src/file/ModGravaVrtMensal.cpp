@@ -257,8 +257,9 @@ bool ModGravaVrtMensal::registro33(const RegistroLido& r)
     if (!m_cadastros.RegistraProduto(codigo, m_estado.nomeInsumoAtual))
         return m_estado.erroRegistro(QStringLiteral("33"), QStringLiteral("Insumo não cadastrado"));
 
+    // A record 33 before any record 32 has no input: its row, with an empty key, is refused by the engine.
     const qint64 insumo = m_estado.insumoAtual.toLongLong();
-    if (!m_estado.insumosComJustificativa.contains(insumo) || !m_estado.insumoAtual.isValid()) {
+    if (!m_estado.insumoAtual.isValid() || !m_estado.insumosComJustificativa.contains(insumo)) {
         const bool temII = !r.brancos(QStringLiteral("JUST_II_DIF_TEC"));
         const bool temIPI = !r.brancos(QStringLiteral("JUST_IPI_DIF_TIPI"));
         m_comandos.executa("INSERT INTO JUST_DIF_ALIQ_INS_VRT_MEN (ID_INSUMO_ITEM, JUST_II_DIF_TEC, ALIQ_II_DIF_TEC, "
