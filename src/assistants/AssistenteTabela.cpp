@@ -80,9 +80,12 @@ void AssistenteTabela::montaTela()
                            .setSelectAllOnFocus();
     m_lblFiltro->setBuddy(m_txtCodigo);
     m_cmdFiltro = botao(QStringLiteral("cmdFiltro"), QStringLiteral("Aplicar"), m_fraFiltro);
+    // The field as wide as the longest code it takes.
+    m_txtCodigo->setFixedWidth(m_txtCodigo->fontMetrics().horizontalAdvance(QString(m_cfg.tamanhoFiltro + 3, QLatin1Char('W'))));
     filtro->addWidget(m_lblFiltro);
-    filtro->addWidget(m_txtCodigo, 1);
+    filtro->addWidget(m_txtCodigo);
     filtro->addWidget(m_cmdFiltro);
+    filtro->addStretch(1);
     principal->addWidget(m_fraFiltro);
 
     m_grade = new ConsultGrid(this);

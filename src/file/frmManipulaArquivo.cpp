@@ -21,6 +21,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QStorageInfo>
+#include <QTimer>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -172,10 +173,28 @@ void frmManipulaArquivo::carregaUnidades()
     // The tree starts at the program's folder, within its drive.
     m_pastas->setRootPath(raizPrograma);
     Dir1->setRootIndex(m_pastas->index(raizPrograma));
-    const QModelIndex inicio = m_pastas->index(programa);
-    Dir1->setCurrentIndex(inicio);
-    Dir1->scrollTo(inicio);
+    Dir1->setCurrentIndex(m_pastas->index(programa));
+    mostraPastaAtual();
     Dir1_Change(programa);
+    // The tree is read in the background: as each folder above the current one arrives, it is opened and the
+    // current folder brought into view.
+    connect(m_pastas, &QFileSystemModel::directoryLoaded, this, [this](const QString& carregada) {
+        if (pastaAtual().startsWith(carregada))
+            mostraPastaAtual();
+    });
+    connect(m_pastas, &QAbstractItemModel::rowsInserted, this, [this](const QModelIndex& pai) {
+        if (pai == Dir1->currentIndex().parent())
+            mostraPastaAtual();
+    });
+}
+
+void frmManipulaArquivo::mostraPastaAtual()
+{
+    const QModelIndex atual = Dir1->currentIndex();
+    for (QModelIndex acima = atual.parent(); acima.isValid(); acima = acima.parent())
+        Dir1->expand(acima);
+    // After the tree has laid out the rows just read.
+    QTimer::singleShot(0, this, [this] { Dir1->scrollTo(Dir1->currentIndex(), QAbstractItemView::PositionAtCenter); });
 }
 
 QString frmManipulaArquivo::pastaAtual() const
@@ -203,6 +222,7 @@ void frmManipulaArquivo::Drive1_Change(int indice)
     m_pastas->setRootPath(raiz);
     Dir1->setRootIndex(m_pastas->index(raiz));
     Dir1->setCurrentIndex(m_pastas->index(raiz));
+    mostraPastaAtual();
 }
 
 void frmManipulaArquivo::Dir1_Change(const QString& pasta)

@@ -65,6 +65,7 @@ private:
     void carregaUnidades();
     void Drive1_Change(int indice);
     void Dir1_Change(const QString& pasta);
+    void mostraPastaAtual();
     void File1_Click(const QString& nome);
     void cmdOk_Click();
     void cmdCancela_Click();

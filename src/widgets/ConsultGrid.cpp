@@ -4,6 +4,28 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
+namespace {
+
+// The value as given is kept for the program; the cell shows it without its trailing blanks, which fixed-width
+// tables store and which would only make the grid elide the text.
+constexpr int ValueRole = Qt::UserRole + 1;
+
+QTableWidgetItem* newItem(const QString& value, Qt::Alignment alignment)
+{
+    qsizetype end = value.size();
+    while (end > 0 && value.at(end - 1) == QLatin1Char(' '))
+        --end;
+    auto* item = new QTableWidgetItem(value.left(end));
+    item->setData(ValueRole, value);
+    // Long texts (NCM descriptions) are elided in their column; the whole text shows on hover.
+    if (end > 40)
+        item->setToolTip(value.left(end));
+    item->setTextAlignment(alignment);
+    return item;
+}
+
+}  // namespace
+
 ConsultGrid::ConsultGrid(QWidget* parent) : QTableWidget(parent)
 {
     setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -59,9 +81,9 @@ void ConsultGrid::addRow(const QStringList& cells)
     const int row = rowCount();
     insertRow(row);
     for (int c = 0; c < columnCount(); ++c) {
-        auto* item = new QTableWidgetItem(c < cells.size() ? cells.at(c) : QString());
-        item->setTextAlignment(Qt::Alignment(horizontalHeaderItem(c)->data(Qt::UserRole).toInt()));
-        setItem(row, c, item);
+        setItem(row, c,
+                newItem(c < cells.size() ? cells.at(c) : QString(),
+                        Qt::Alignment(horizontalHeaderItem(c)->data(Qt::UserRole).toInt())));
     }
     m_filling = false;
 }
@@ -81,9 +103,7 @@ void ConsultGrid::setRows(const QList<QStringList>& rows)
     for (int r = 0; r < rows.size(); ++r) {
         const QStringList& cells = rows.at(r);
         for (int c = 0; c < columns; ++c) {
-            auto* item = new QTableWidgetItem(c < cells.size() ? cells.at(c) : QString());
-            item->setTextAlignment(alignment.at(c));
-            setItem(r, c, item);
+            setItem(r, c, newItem(c < cells.size() ? cells.at(c) : QString(), alignment.at(c)));
         }
     }
     if (!rows.isEmpty()) {
@@ -103,7 +123,7 @@ void ConsultGrid::setRows(const QList<QStringList>& rows)
 QString ConsultGrid::cellText(int row, int column) const
 {
     const QTableWidgetItem* it = item(row, column);
-    return it ? it->text() : QString();
+    return it ? it->data(ValueRole).toString() : QString();
 }
 
 QString ConsultGrid::currentText(int column) const

@@ -4,7 +4,8 @@
 //   - a click, Enter, or a move with the cursor keys "chooses" the current row (rowChosen);
 //   - a drag never selects several rows; Shift with a key brings the selection back to the current row;
 //   - a double click activates the row (rowActivated), Escape asks to leave (escapePressed);
-//   - a click on a column title is reported (titleClicked) and sorts nothing by itself.
+//   - a click on a column title is reported (titleClicked) and sorts nothing by itself;
+//   - cells show their values without trailing blanks; cellText() gives the values as they were given.
 // Screens that let the user pick several rows (the declaration chooser) turn on multi-selection; the rows
 // picked are then reported in the order they were picked.
 #include <QList>
