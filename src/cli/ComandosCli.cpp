@@ -57,6 +57,17 @@ int Gravar(const OpcoesCli& opcoes)
         erro(s("pasta não encontrada: ") + opcoes.pasta);
         return 1;
     }
+    // An identification that is not in the database refuses the whole run before anything is written, so
+    // that no success text is printed for files that were never made.
+    bool todasExistem = true;
+    for (const QString& id : opcoes.argumentos) {
+        if (!modBancoDados::ValorUnico(s("SELECT 1 FROM VRT WHERE ID_VRT_MICRO = ?"), {id}).isValid()) {
+            erro(s("identificação não encontrada: ") + id);
+            todasExistem = false;
+        }
+    }
+    if (!todasExistem)
+        return 1;
     ManipuladorCli manipulador;
     InstalaManipuladorMsg(std::ref(manipulador));
     const ResultadoGravacao r = GravaVrt(opcoes.argumentos, pasta.absoluteFilePath(),

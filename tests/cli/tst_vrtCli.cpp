@@ -229,9 +229,13 @@ private slots:
         QCOMPARE(e.status, 0);
         QCOMPARE(e.saida, t("Nenhum problema encontrado (5 registros).\n"));
 
-        e = roda({t("gravar"), t("99999/99"), t("--pasta"), pasta});
+        // An unknown identification refuses the run: nothing is written and no success text is printed.
+        QVERIFY(QFile::remove(nome));
+        e = roda({t("gravar"), identificacao(1), t("99999/99"), t("--pasta"), pasta});
         QCOMPARE(e.status, 1);
-        QVERIFY(e.erros.contains(t("vrt-cli: identificação não encontrada: 99999/99\n")));
+        QCOMPARE(e.erros, t("vrt-cli: identificação não encontrada: 99999/99\n"));
+        QCOMPARE(e.saida, QString());
+        QVERIFY(!QFile::exists(nome));
     }
 
     void gravarEmPastaInexistente()
