@@ -45,8 +45,6 @@ AssistenteTabela::AssistenteTabela(const Configuracao& configuracao, QWidget* pa
         modBancoDados::ConectaBanco(modVRTPLN::ArquivoBanco());
         modBancoDados::IniciaTransacao();
     }
-    if (auto* principal = frmVRTPLN::instancia())
-        CentralizaForm(principal, this);
 }
 
 AssistenteTabela::~AssistenteTabela()
@@ -192,6 +190,9 @@ void AssistenteTabela::showEvent(QShowEvent* evento)
     QDialog::showEvent(evento);
     if (!m_ativado) {
         m_ativado = true;
+        // Centred in the main window, whoever called it.
+        if (auto* principal = frmVRTPLN::instancia(); principal && principal->isVisible())
+            move(principal->frameGeometry().center() - QPoint(frameGeometry().width() / 2, frameGeometry().height() / 2));
         // The list is read when the screen comes to the front, once the dialog's own loop runs.
         QTimer::singleShot(0, this, &AssistenteTabela::aoAtivar);
     }

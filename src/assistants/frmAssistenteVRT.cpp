@@ -60,9 +60,7 @@ frmAssistenteVRT::frmAssistenteVRT(QWidget* pai) : TelaFilha(pai)
     connect(cmdOk, &QPushButton::clicked, this, &frmAssistenteVRT::grdAssistenteVRT_DblClick);
     connect(cmdCancela, &QPushButton::clicked, this, &frmAssistenteVRT::fecha);
 
-    if (auto* janela = frmVRTPLN::instancia())
-        CentralizaForm(janela, this);
-    // The newest identifier on top within a year.
+    // The main window centres the screen as it opens it. The newest identifier on top within a year.
     carregaLista(ListaDeclaracoes::Identificacao, QStringLiteral("DESC"));
 }
 

@@ -428,7 +428,7 @@ private slots:
         frmVRTPLN janela;
         HabilitaMenus(false);
         janela.show();
-        bool peloMenu = false, abrirDesligado = false, viu = false;
+        bool peloMenu = false, abrirDesligado = false, viu = false, centrada = false;
         QTimer::singleShot(50, this, [&] {
             auto* tela = qobject_cast<AssistenteTabela*>(QApplication::activeModalWidget());
             viu = tela != nullptr;
@@ -436,12 +436,14 @@ private slots:
                 return;
             peloMenu = tela->peloMenu() && (produto ? ProdutoPeloMenu : UnidadePeloMenu);
             abrirDesligado = !janela.acao(QStringLiteral("mnuDeclaracaoAbrir"))->isEnabled();
+            centrada = (tela->frameGeometry().center() - janela.frameGeometry().center()).manhattanLength() <= 4;
             QTest::mouseClick(tela->findChild<QPushButton*>(QStringLiteral("cmdCancela")), Qt::LeftButton);
         });
         janela.acao(comando)->trigger();
         QVERIFY(viu);
         QVERIFY(peloMenu);
         QVERIFY(abrirDesligado);
+        QVERIFY(centrada);
         QVERIFY(!ProdutoPeloMenu && !UnidadePeloMenu);
         QVERIFY(janela.acao(QStringLiteral("mnuDeclaracaoAbrir"))->isEnabled());
         QCOMPARE(TelaAtual, 0);
