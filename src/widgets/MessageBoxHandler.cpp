@@ -43,7 +43,10 @@ QList<ButtonSpec> buttonsOf(int style)
 
 int ShowMessageBox(const QString& text, int style, const QString& title)
 {
-    QMessageBox box(iconOf(style), title, text, QMessageBox::NoButton, QApplication::activeWindow());
+    // Texts break their lines with CR, LF or CR LF, as the old boxes accepted; a label breaks only on LF.
+    QString shown = text;
+    shown.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    QMessageBox box(iconOf(style), title, shown, QMessageBox::NoButton, QApplication::activeWindow());
     const QList<ButtonSpec> specs = buttonsOf(style);
     QList<QPushButton*> buttons;
     for (const ButtonSpec& s : specs)
