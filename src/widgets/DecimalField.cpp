@@ -5,7 +5,6 @@
 #include "widgets/FieldFocus.h"
 
 #include <QKeyEvent>
-#include <QTimer>
 
 namespace {
 
@@ -43,13 +42,14 @@ bool isTypedCharacter(const QKeyEvent* event)
 }  // namespace
 
 DecimalField::DecimalField(Family family, const QString& name, const QString& zeroMessage, QWidget* parent)
-    : QLineEdit(parent), m_family(family), m_zeroMessage(zeroMessage)
+    : CheckedField(parent), m_family(family)
 {
     const FamilyLimits limits = limitsOf(family);
     m_integers = limits.integers;
     m_decimals = limits.decimals;
     m_displayFormat = QString::fromLatin1(limits.display);
     m_storeFormat = QString::fromLatin1(limits.store);
+    m_zeroMessage = zeroMessage;
     setObjectName(name);
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     connect(this, &QLineEdit::textEdited, this, &DecimalField::onTextEdited);
@@ -143,29 +143,12 @@ void DecimalField::onTextEdited(const QString&)
 void DecimalField::focusInEvent(QFocusEvent* event)
 {
     QLineEdit::focusInEvent(event);
-    if (event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason)
+    if (!isEntryToSelect(event))
         return;
     const QString plain = plainText();
     if (plain != text())
         setText(plain);
-    // Deferred so that a mouse click, which places the caret after the focus arrives, does not undo it.
-    QTimer::singleShot(0, this, [this] {
-        if (hasFocus())
-            selectAll();
-    });
-}
-
-void DecimalField::focusOutEvent(QFocusEvent* event)
-{
-    QLineEdit::focusOutEvent(event);
-    if (!isLeaveToCheck(event))
-        return;
-    if (checkLeave()) {
-        emit leaveAccepted();
-    } else {
-        emit leaveRefused();
-        returnFocusLater(this);
-    }
+    selectAllLater(this);
 }
 
 bool DecimalField::checkLeave()
@@ -173,10 +156,8 @@ bool DecimalField::checkLeave()
     const QString t = text();
     if (t.trimmed().isEmpty())
         return true;
-    if (!m_zeroMessage.isEmpty() && Funcoes::EhZero(t)) {
-        MsgBox(m_zeroMessage, Msg::OKOnly | Msg::Critical);
+    if (refusesZero(t))
         return false;
-    }
     if (plainText().indexOf(QLatin1Char(',')) > m_integers) {
         MsgBox(formatMessage(), Msg::OKOnly | Msg::Critical);
         return false;

@@ -6,7 +6,8 @@
 //
 // While it has the focus the field holds the plain text being typed ("1234567,5"); once left it shows the
 // grouped display of its format ("1.234.567,50000"). value() gives the text the store keeps ("1234567,50000").
-#include <QLineEdit>
+#include "widgets/CheckedField.h"
+
 #include <functional>
 
 // The four texts the editors show for a value of zero; the caller picks the one its screen uses.
@@ -18,7 +19,7 @@ inline const QString GreaterThanZero = QStringLiteral("Campo deve ser maior que 
 inline const QString NotZero = QStringLiteral("Este campo não pode ser zero.");
 }  // namespace ZeroMessage
 
-class DecimalField : public QLineEdit {
+class DecimalField : public CheckedField {
     Q_OBJECT
 public:
     enum Family {
@@ -53,18 +54,12 @@ public:
     // Shows a stored value by the display format; an empty value empties the field.
     void setValue(const QString& storedValue);
 
-    // The leave check, as run when the focus moves on: true when the field may be left. On success a filled
-    // field takes its grouped display.
-    bool checkLeave();
-
-signals:
-    void leaveRefused();
-    void leaveAccepted();
+    // On success a filled field takes its grouped display.
+    bool checkLeave() override;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     void onTextEdited(const QString& text);
@@ -76,7 +71,6 @@ private:
     int m_decimals;
     QString m_displayFormat;
     QString m_storeFormat;
-    QString m_zeroMessage;
     std::function<bool(const QString&)> m_extraCheck;
     bool m_keyTyped = false;
     bool m_adjusting = false;

@@ -1,14 +1,11 @@
 #include "widgets/DigitField.h"
 
 #include "rules/Formatadores.h"
-#include "rules/FormatoNumero.h"
-#include "shell/MsgBox.h"
 #include "widgets/FieldFocus.h"
 
 #include <QKeyEvent>
-#include <QTimer>
 
-DigitField::DigitField(const QString& name, int maxLength, QWidget* parent) : QLineEdit(parent)
+DigitField::DigitField(const QString& name, int maxLength, QWidget* parent) : CheckedField(parent)
 {
     setObjectName(name);
     setMaxLength(maxLength);
@@ -82,25 +79,8 @@ void DigitField::onTextEdited(const QString&)
 void DigitField::focusInEvent(QFocusEvent* event)
 {
     QLineEdit::focusInEvent(event);
-    if (event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason)
-        return;
-    QTimer::singleShot(0, this, [this] {
-        if (hasFocus())
-            selectAll();
-    });
-}
-
-void DigitField::focusOutEvent(QFocusEvent* event)
-{
-    QLineEdit::focusOutEvent(event);
-    if (!isLeaveToCheck(event))
-        return;
-    if (checkLeave()) {
-        emit leaveAccepted();
-    } else {
-        emit leaveRefused();
-        returnFocusLater(this);
-    }
+    if (isEntryToSelect(event))
+        selectAllLater(this);
 }
 
 bool DigitField::checkLeave()
@@ -108,10 +88,8 @@ bool DigitField::checkLeave()
     const QString t = text();
     if (t.isEmpty())
         return true;
-    if (!m_zeroMessage.isEmpty() && Funcoes::EhZero(t)) {
-        MsgBox(m_zeroMessage, Msg::OKOnly | Msg::Critical);
+    if (refusesZero(t))
         return false;
-    }
     if (m_padWidth > 0)
         setText(Funcoes::ZeroEsquerda(t, m_padWidth));
     return true;

@@ -5,9 +5,9 @@
 // account), upper case, a zero test and the rewriting to a fixed width ("000") on leaving.
 //     txtItem = new DigitField("txt100NacionalIndividual(0)", 3, this);
 //     txtItem->setZeroMessage(ZeroMessage::GreaterThanZero).setPadWidth(3);
-#include <QLineEdit>
+#include "widgets/CheckedField.h"
 
-class DigitField : public QLineEdit {
+class DigitField : public CheckedField {
     Q_OBJECT
 public:
     DigitField(const QString& name, int maxLength, QWidget* parent = nullptr);
@@ -19,17 +19,11 @@ public:
     // On leaving, a filled field is rewritten with zeros in front up to this width (0: no rewriting).
     DigitField& setPadWidth(int width);
 
-    // The leave check, as run when the focus moves on: true when the field may be left.
-    bool checkLeave();
-
-signals:
-    void leaveRefused();
-    void leaveAccepted();
+    bool checkLeave() override;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     bool accepts(QChar c) const;
@@ -37,7 +31,6 @@ private:
 
     QString m_extra;
     bool m_upper = false;
-    QString m_zeroMessage;
     int m_padWidth = 0;
     bool m_adjusting = false;
 };

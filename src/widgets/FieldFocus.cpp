@@ -1,6 +1,7 @@
 #include "widgets/FieldFocus.h"
 
 #include <QCoreApplication>
+#include <QLineEdit>
 #include <QPointer>
 #include <QStackedWidget>
 #include <QTabWidget>
@@ -40,6 +41,19 @@ bool isLeaveToCheck(const QFocusEvent* event)
 {
     if (returningFocus)
         return false;
+    return isEntryToSelect(event);
+}
+
+bool isEntryToSelect(const QFocusEvent* event)
+{
     const Qt::FocusReason reason = event->reason();
     return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason;
+}
+
+void selectAllLater(QLineEdit* field)
+{
+    QTimer::singleShot(0, field, [field] {
+        if (field->hasFocus())
+            field->selectAll();
+    });
 }

@@ -4,6 +4,7 @@
 // leave check, or one refusal would set off another.
 #include <QFocusEvent>
 
+class QLineEdit;
 class QWidget;
 
 // Makes every tab page that holds `field` the current one.
@@ -15,3 +16,11 @@ void returnFocusLater(QWidget* field);
 // True when a focus-out is a real move to another control of the screen, not the window losing the focus to a
 // message box or another window, and no refused field is taking its focus back.
 bool isLeaveToCheck(const QFocusEvent* event);
+
+// True when a focus-in comes from a move inside the screen, not from the window getting the focus back or a popup
+// closing: only then does a field select its text.
+bool isEntryToSelect(const QFocusEvent* event);
+
+// Selects the whole text once the focus change is over, so that a mouse click, which places the caret after the
+// focus arrives, does not undo it.
+void selectAllLater(QLineEdit* field);

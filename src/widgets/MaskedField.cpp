@@ -1,9 +1,9 @@
 #include "widgets/MaskedField.h"
 
 #include "rules/FormatoNumero.h"
+#include "widgets/FieldFocus.h"
 
 #include <QFocusEvent>
-#include <QTimer>
 
 MaskedField::MaskedField(const QString& mask, const QString& name, QWidget* parent)
     : QLineEdit(parent), m_mask(mask), m_positions(mask.count(QLatin1Char('#')))
@@ -45,10 +45,6 @@ bool MaskedField::isComplete() const
 void MaskedField::focusInEvent(QFocusEvent* event)
 {
     QLineEdit::focusInEvent(event);
-    if (event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason)
-        return;
-    QTimer::singleShot(0, this, [this] {
-        if (hasFocus())
-            selectAll();
-    });
+    if (isEntryToSelect(event))
+        selectAllLater(this);
 }
