@@ -1,5 +1,6 @@
 #include "file/ComandosPreparados.h"
 
+#include "shell/MsgBox.h"
 #include "store/modBancoDados.h"
 
 ComandosPreparados::ComandosPreparados() = default;
@@ -44,6 +45,15 @@ void ComandosPreparados::executa(const char* sql, const QVariantList& valores)
     QSqlQuery& q = roda(sql, valores);
     m_ultimaChave = q.lastInsertId();
     q.finish();
+}
+
+bool ComandosPreparados::novaChave(QVariant& chave, const QString& mensagem)
+{
+    chave = m_ultimaChave;
+    if (chave.isValid() && !chave.isNull())
+        return true;
+    MsgBox(mensagem, Msg::Critical);
+    return false;
 }
 
 QVariant ComandosPreparados::valor(const char* sql, const QVariantList& valores)

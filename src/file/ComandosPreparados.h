@@ -19,6 +19,9 @@ public:
     void executa(const char* sql, const QVariantList& valores);
     // Key that the engine gave to the row inserted by the last `executa`, or an invalid QVariant.
     QVariant ultimaChave() const { return m_ultimaChave; }
+    // The key of the row just inserted into `chave`; without one, `mensagem` is shown (critical) and the result
+    // is false. Each reader keeps its own message per record.
+    bool novaChave(QVariant& chave, const QString& mensagem);
     // First column of the first row, or an invalid QVariant when there is no row.
     QVariant valor(const char* sql, const QVariantList& valores);
     // Whether the query gives at least one row.

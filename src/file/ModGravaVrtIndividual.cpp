@@ -4,7 +4,6 @@
 #include "file/ComandosPreparados.h"
 #include "file/EstadoLeitura.h"
 #include "file/RegistroLido.h"
-#include "shell/MsgBox.h"
 
 namespace {
 QVariant tx(const QString& v)
@@ -42,15 +41,6 @@ bool ModGravaVrtIndividual::gravaRegistro(const QString& tipo, QString& linha)
     }
 }
 
-bool ModGravaVrtIndividual::novaChave(QVariant& chave, const QString& mensagem)
-{
-    chave = m_comandos.ultimaChave();
-    if (chave.isValid() && !chave.isNull())
-        return true;
-    MsgBox(mensagem, Msg::Critical);
-    return false;
-}
-
 bool ModGravaVrtIndividual::novoItem(const RegistroLido& r, const QString& ncm, const QString& modalidade,
                                      const QString& mensagem)
 {
@@ -59,7 +49,7 @@ bool ModGravaVrtIndividual::novoItem(const RegistroLido& r, const QString& ncm, 
                        {m_estado.idNfs, tx(r.texto(QStringLiteral("NR_ITEM_NF_SAIDA"))), tx(r.aparado(QStringLiteral("CD_INT_PROD"))),
                         tx(r.texto(QStringLiteral("NM_INT_PROD"))), ncm.isNull() ? QVariant() : tx(ncm), modalidade,
                         tx(r.aparado(QStringLiteral("NM_UNID_MED_PROD")))});
-    return novaChave(m_estado.itemAtual, mensagem);
+    return m_comandos.novaChave(m_estado.itemAtual, mensagem);
 }
 
 bool ModGravaVrtIndividual::registro11(const RegistroLido& r)
@@ -119,7 +109,7 @@ bool ModGravaVrtIndividual::registro13(const RegistroLido& r)
                         tx(r.texto(QStringLiteral("IND_DL_288_67"))), tx(r.texto(QStringLiteral("IND_OBSOLE_RESIDUO"))),
                         tx(r.decimal(QStringLiteral("QT_PROD_UNID_NFS"))), tx(r.texto(QStringLiteral("IND_SUSP_PIS_COFINS")))});
     QVariant di;
-    if (!novaChave(di, QStringLiteral("ERRO NA RECUPERAÇÃO DO REGISTRO 13 DA INDIVIDUAL")))
+    if (!m_comandos.novaChave(di, QStringLiteral("ERRO NA RECUPERAÇÃO DO REGISTRO 13 DA INDIVIDUAL")))
         return false;
     m_comandos.executa("INSERT INTO ITEM_IMPORT_288_PE (ID_ITEM_DI, VL_INS_PROD_UNID_NFS, CD_MOEDA_NEG, "
                        "VL_FRETE_UNID_NFS, CD_MOEDA_FRETE, VL_SEGURO_UNID_NFS, CD_MOEDA_SEGURO, VL_TOT_PROD_INT) "
@@ -218,7 +208,7 @@ bool ModGravaVrtIndividual::registro32(const RegistroLido& r)
                        "QT_INSUMO_POR_PROD, NM_UNID_MED_INSUMO) VALUES (?, ?, ?, ?, ?, ?)",
                        {m_estado.itemAtual, tx(codigo), tx(nome), tx(ncm), tx(r.decimal(QStringLiteral("QT_INSUMO_POR_PROD"))),
                         tx(r.aparado(QStringLiteral("NM_UNID_MED_INSUMO")))});
-    return novaChave(m_estado.insumoAtual, QStringLiteral("Problema de Gravação no Registro 32 da individual"));
+    return m_comandos.novaChave(m_estado.insumoAtual, QStringLiteral("Problema de Gravação no Registro 32 da individual"));
 }
 
 bool ModGravaVrtIndividual::registro33(const RegistroLido& r)
@@ -267,7 +257,7 @@ bool ModGravaVrtIndividual::registro35(const RegistroLido& r)
                         tx(r.texto(QStringLiteral("IND_DL_288_67"))), tx(r.texto(QStringLiteral("IND_SUSP_PIS_COFINS"))),
                         tx(r.decimal(QStringLiteral("QT_INSUMO_UNID_NFS")))});
     QVariant di;
-    if (!novaChave(di, QStringLiteral("ERRO NA RECUPERAÇÃO DO REGISTRO 35 DA INDIVIDUAL")))
+    if (!m_comandos.novaChave(di, QStringLiteral("ERRO NA RECUPERAÇÃO DO REGISTRO 35 DA INDIVIDUAL")))
         return false;
     m_comandos.executa("INSERT INTO ITEM_IMPORT_288_INS (ID_ITEM_DI, VL_INS_PROD_UNID_NFS, CD_MOEDA_NEG, "
                        "VL_FRETE_UNID_NFS, CD_MOEDA_FRETE, VL_SEGURO_UNID_NFS, CD_MOEDA_SEGURO) "

@@ -30,7 +30,6 @@ private:
     bool registro41(const RegistroLido& r);
     // The row of ITEM_NFS that every record 11, 21, 31 and 41 begins with; false with `mensagem` without a key.
     bool novoItem(const RegistroLido& r, const QString& ncm, const QString& modalidade, const QString& mensagem);
-    bool novaChave(QVariant& chave, const QString& mensagem);
 
     EstadoLeitura& m_estado;
     ComandosPreparados& m_comandos;

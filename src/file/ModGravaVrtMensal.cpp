@@ -4,7 +4,6 @@
 #include "file/ComandosPreparados.h"
 #include "file/EstadoLeitura.h"
 #include "file/RegistroLido.h"
-#include "shell/MsgBox.h"
 
 namespace {
 QVariant tx(const QString& v)
@@ -41,15 +40,6 @@ bool ModGravaVrtMensal::gravaRegistro(const QString& tipo, QString& linha)
     }
 }
 
-bool ModGravaVrtMensal::novaChave(QVariant& chave, const QString& mensagem)
-{
-    chave = m_comandos.ultimaChave();
-    if (chave.isValid() && !chave.isNull())
-        return true;
-    MsgBox(mensagem, Msg::Critical);
-    return false;
-}
-
 bool ModGravaVrtMensal::registro11(const RegistroLido& r)
 {
     const QString ncm = r.texto(QStringLiteral("CD_NCM_PRODUTO"));
@@ -73,7 +63,7 @@ bool ModGravaVrtMensal::registro11(const RegistroLido& r)
                            "VALUES (?, ?, ?, '1', ?, ?, ?)",
                            {m_estado.IdVrtLida, tx(ncm), tx(codigo), tx(r.decimal(QStringLiteral("QT_PROD_UNID_EST"))),
                             tx(r.aparado(QStringLiteral("NM_UNID_MED_PROD"))), tx(nome)});
-        if (!novaChave(m_estado.itemAtual, QStringLiteral("ERRO NA RECUPERAÇÃO DO REGISTRO 11 DA MENSAL")))
+        if (!m_comandos.novaChave(m_estado.itemAtual, QStringLiteral("ERRO NA RECUPERAÇÃO DO REGISTRO 11 DA MENSAL")))
             return false;
         m_estado.itensPE.insert(codigo, m_estado.itemAtual);
     }
@@ -82,7 +72,7 @@ bool ModGravaVrtMensal::registro11(const RegistroLido& r)
     m_comandos.executa("INSERT INTO DESTINO_ITEM_VRT_MEN (ID_ITEM_VRT, CD_LOCAL_DESTINO, QT_PROD_LOC_DEST) "
                        "VALUES (?, ?, ?)",
                        {m_estado.itemAtual, tx(local), tx(r.decimal(QStringLiteral("QT_PROD_LOC_DEST")))});
-    if (!novaChave(m_estado.destinoAtual, QStringLiteral("Problema de Gravação no Registro 11 da mensal")))
+    if (!m_comandos.novaChave(m_estado.destinoAtual, QStringLiteral("Problema de Gravação no Registro 11 da mensal")))
         return false;
 
     // Only the first record 11 of a product fills the justification: later destinations' are not read.
@@ -126,7 +116,7 @@ bool ModGravaVrtMensal::registro13(const RegistroLido& r)
                         tx(r.texto(QStringLiteral("IND_DL_288_67"))), tx(r.texto(QStringLiteral("IND_OBSOLE_RESIDUO"))),
                         tx(r.texto(QStringLiteral("IND_SUSP_PIS_COFINS"))), tx(r.decimal(QStringLiteral("QT_PROD_UNID_PROD")))});
     QVariant di;
-    if (!novaChave(di, QStringLiteral("ERRO NA RECUPERAÇÃO DO REGISTRO 13 DA MENSAL")))
+    if (!m_comandos.novaChave(di, QStringLiteral("ERRO NA RECUPERAÇÃO DO REGISTRO 13 DA MENSAL")))
         return false;
     // Always one row of values, empty ones included; each value only when it differs from its zeros.
     m_comandos.executa("INSERT INTO ITEM_IMPORT_288_PE_MEN (ID_ITEM_DI, VL_PROD_UNID_PROD, CD_MOEDA_NEG, "
@@ -167,7 +157,7 @@ bool ModGravaVrtMensal::registro21(const RegistroLido& r)
     m_comandos.executa("INSERT INTO ITEM_VRT_MEN (ID_VRT_MICRO, NM_INT_PRODUTO, CD_INT_PRODUTO, IND_MOD_INTERNACAO) "
                        "VALUES (?, ?, ?, '2')",
                        {m_estado.IdVrtLida, tx(nome), tx(codigo)});
-    if (!novaChave(m_estado.itemAtual, QStringLiteral("Problema de Gravação no Registro 21 da mensal")))
+    if (!m_comandos.novaChave(m_estado.itemAtual, QStringLiteral("Problema de Gravação no Registro 21 da mensal")))
         return false;
     m_comandos.executa("INSERT INTO DESTINO_ITEM_VRT_MEN (ID_ITEM_VRT, CD_LOCAL_DESTINO, VL_II_UNIT_DOLAR, "
                        "PC_COEF_REDUCAO_II, QT_PROD_LOC_DEST, NM_UNID_MED_DEST, VL_PIS, VL_COFINS) "
@@ -209,7 +199,7 @@ bool ModGravaVrtMensal::registro31(const RegistroLido& r)
     m_comandos.executa("INSERT INTO ITEM_VRT_MEN (ID_VRT_MICRO, NM_INT_PRODUTO, CD_INT_PRODUTO, NM_UNID_MED_PROD, "
                        "CD_NCM_PRODUTO, IND_MOD_INTERNACAO) VALUES (?, ?, ?, ?, ?, '3')",
                        {m_estado.IdVrtLida, tx(nome), tx(codigo), tx(r.aparado(QStringLiteral("NM_UNID_MED_PROD"))), tx(ncm)});
-    if (!novaChave(m_estado.itemAtual, QStringLiteral("Problema de Gravação no Registro 31 da mensal")))
+    if (!m_comandos.novaChave(m_estado.itemAtual, QStringLiteral("Problema de Gravação no Registro 31 da mensal")))
         return false;
     for (int d = 1; d <= 4; ++d) {
         const QString n = QString::number(d);
@@ -243,7 +233,7 @@ bool ModGravaVrtMensal::registro32(const RegistroLido& r)
                        "NM_UNID_MED_INSUMO, QT_INSUMO_POR_PROD) VALUES (?, ?, ?, ?, ?, ?)",
                        {m_estado.itemAtual, tx(codigo), tx(ncm), tx(nome), tx(r.aparado(QStringLiteral("NM_UNID_MED_INSUMO"))),
                         tx(r.decimal(QStringLiteral("QT_INSUMO_POR_PROD")))});
-    if (!novaChave(m_estado.insumoAtual, QStringLiteral("Problema de Gravação no Registro 32 da mensal")))
+    if (!m_comandos.novaChave(m_estado.insumoAtual, QStringLiteral("Problema de Gravação no Registro 32 da mensal")))
         return false;
     m_estado.codigoInsumoAtual = codigo;
     m_estado.nomeInsumoAtual = nome;
@@ -307,7 +297,7 @@ bool ModGravaVrtMensal::registro35(const RegistroLido& r)
          tx(r.decimal(QStringLiteral("QT_INSUMO_UNID_INS")))});
     // The monthly reader's own message for this record is the individual one, as the system has it.
     QVariant di;
-    if (!novaChave(di, QStringLiteral("ERRO NA RECUPERAÇÃO DO REGISTRO 35 DA INDIVIDUAL")))
+    if (!m_comandos.novaChave(di, QStringLiteral("ERRO NA RECUPERAÇÃO DO REGISTRO 35 DA INDIVIDUAL")))
         return false;
     m_comandos.executa("INSERT INTO ITEM_IMPORT_288_INS_MEN (ID_ITEM_DI, VL_INSUMO_UNID_INS, CD_MOEDA_NEG, "
                        "VL_FRETE_UNID_INT, CD_MOEDA_FRETE, VL_SEGURO_UNID_INT, CD_MOEDA_SEGURO) "

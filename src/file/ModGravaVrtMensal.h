@@ -27,8 +27,6 @@ private:
     bool registro35(const RegistroLido& r);
     bool registro36(const RegistroLido& r);
     bool registro41(const RegistroLido& r);
-    // The key the engine gave the row just inserted; without one, `mensagem` is shown and the result is false.
-    bool novaChave(QVariant& chave, const QString& mensagem);
 
     EstadoLeitura& m_estado;
     ComandosPreparados& m_comandos;

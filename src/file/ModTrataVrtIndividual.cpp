@@ -2,10 +2,10 @@
 
 #include "file/CabecalhoVrt.h"
 #include "file/CursorFilhos.h"
+#include "file/EscritaRegistro.h"
 #include "file/GravaVrt.h"
 #include "file/LinhaRegistro.h"
 #include "file/SaidaVrt.h"
-#include "shell/MsgBox.h"
 #include "store/modBancoDados.h"
 
 #include <QHash>
@@ -13,6 +13,9 @@
 #include <memory>
 
 using namespace modBancoDados;
+using EscritaRegistro::Colunas;
+using EscritaRegistro::poe;
+using EscritaRegistro::valoresImportacao;
 
 namespace ModTrataVrtIndividual {
 
@@ -211,18 +214,15 @@ void EscritaIndividual::produtoEstrangeiro(const QSqlQuery& item)
 void EscritaIndividual::registro12(qint64 item)
 {
     enum { Cnpj = 1, Serie, Numero, ItemNf, Data, Cfop, Dl288, Obsoleto, Quantidade, Valor, ValorTotal };
+    static const Colunas campos{{"NR_CNPJ_FORNECEDOR", Cnpj}, {"NR_SERIE_NF_AQUIS", Serie},
+                                {"NR_NF_AQUIS", Numero}, {"NR_ITEM_NF_AQUIS", ItemNf},
+                                {"DT_EMISS_NF_AQUIS", Data}, {"CD_CFOP_NF_AQUIS", Cfop},
+                                {"IND_DL_288_67", Dl288}, {"IND_OBSOLE_RESIDUO", Obsoleto},
+                                {"QT_PROD_UNID_NFS", Quantidade, true}};
     for (; m_nfa->de(item); m_nfa->avanca()) {
         const CursorFilhos& x = *m_nfa;
         LinhaRegistro r(layout(12));
-        r.poe(QStringLiteral("NR_CNPJ_FORNECEDOR"), x.texto(Cnpj));
-        r.poe(QStringLiteral("NR_SERIE_NF_AQUIS"), x.texto(Serie));
-        r.poe(QStringLiteral("NR_NF_AQUIS"), x.texto(Numero));
-        r.poe(QStringLiteral("NR_ITEM_NF_AQUIS"), x.texto(ItemNf));
-        r.poe(QStringLiteral("DT_EMISS_NF_AQUIS"), x.texto(Data));
-        r.poe(QStringLiteral("CD_CFOP_NF_AQUIS"), x.texto(Cfop));
-        r.poe(QStringLiteral("IND_DL_288_67"), x.texto(Dl288));
-        r.poe(QStringLiteral("IND_OBSOLE_RESIDUO"), x.texto(Obsoleto));
-        r.poe(QStringLiteral("QT_PROD_UNID_NFS"), x.texto(Quantidade) == Branco ? QString() : x.texto(Quantidade));
+        poe(r, x, campos);
         if (x.texto(Dl288) == S && x.texto(Obsoleto) == N)
             r.poe(QStringLiteral("VL_INS_PROD_UNID_NFS"), x.texto(Valor));
         if (x.texto(Obsoleto) == S)
@@ -235,25 +235,19 @@ void EscritaIndividual::registro13(qint64 item)
 {
     enum { Numero = 1, Antiga, Adicao, ItemAdicao, Dl288, Obsoleto, Quantidade, Valor, Moeda, Frete, MoedaFrete,
            Seguro, MoedaSeguro, ValorTotal, Suspensao };
+    static const Colunas campos{{"NR_DI", Numero, true}, {"NR_DI_ANTIGA", Antiga, true},
+                                {"NR_ADICAO_DI", Adicao}, {"NR_ITEM_ADICAO", ItemAdicao},
+                                {"IND_DL_288_67", Dl288}, {"IND_OBSOLE_RESIDUO", Obsoleto},
+                                {"QT_PROD_UNID_NFS", Quantidade}};
+    static const Colunas valores =
+        valoresImportacao(QStringLiteral("VL_INS_PROD_UNID_NFS"), QStringLiteral("NFS"), Valor);
     for (; m_di->de(item); m_di->avanca()) {
         const CursorFilhos& x = *m_di;
         LinhaRegistro r(layout(13));
-        r.poe(QStringLiteral("NR_DI"), x.texto(Numero) == Branco ? QString() : x.texto(Numero));
-        r.poe(QStringLiteral("NR_DI_ANTIGA"), x.texto(Antiga) == Branco ? QString() : x.texto(Antiga));
-        r.poe(QStringLiteral("NR_ADICAO_DI"), x.texto(Adicao));
-        r.poe(QStringLiteral("NR_ITEM_ADICAO"), x.texto(ItemAdicao));
-        r.poe(QStringLiteral("IND_DL_288_67"), x.texto(Dl288));
-        r.poe(QStringLiteral("IND_OBSOLE_RESIDUO"), x.texto(Obsoleto));
-        r.poe(QStringLiteral("QT_PROD_UNID_NFS"), x.texto(Quantidade));
+        poe(r, x, campos);
         // The suspension of PIS/COFINS does not count here, unlike the monthly record 13.
-        if (x.texto(Dl288) == S && x.texto(Obsoleto) == N) {
-            r.poe(QStringLiteral("VL_INS_PROD_UNID_NFS"), x.texto(Valor));
-            r.poe(QStringLiteral("CD_MOEDA_NEG"), x.texto(Moeda));
-            r.poe(QStringLiteral("VL_FRETE_UNID_NFS"), x.texto(Frete));
-            r.poe(QStringLiteral("CD_MOEDA_FRETE"), x.texto(MoedaFrete));
-            r.poe(QStringLiteral("VL_SEGURO_UNID_NFS"), x.texto(Seguro));
-            r.poe(QStringLiteral("CD_MOEDA_SEGURO"), x.texto(MoedaSeguro));
-        }
+        if (x.texto(Dl288) == S && x.texto(Obsoleto) == N)
+            poe(r, x, valores);
         // Kept as the system has it: the test reads the monthly writer's working value, which only a monthly
         // file written earlier in the run can have set.
         if (m_run.obsoleResiduoMensal == S)
@@ -266,21 +260,16 @@ void EscritaIndividual::registro13(qint64 item)
 void EscritaIndividual::registro14(qint64 item)
 {
     enum { Numero = 1, Antiga, Bem, Quantidade, Valor, Moeda, Frete, MoedaFrete, Seguro, MoedaSeguro, Suspensao };
+    static const Colunas campos{{"NR_DSI", Numero}, {"NR_DSI_ANTIGA", Antiga}, {"NR_BEM", Bem},
+                                {"QT_PROD_UNID_NFS", Quantidade}};
+    static const Colunas valores =
+        valoresImportacao(QStringLiteral("VL_PROD_UNID_PROD"), QStringLiteral("INT"), Valor);
     for (; m_dsi->de(item); m_dsi->avanca()) {
         const CursorFilhos& x = *m_dsi;
         LinhaRegistro r(layout(14));
-        r.poe(QStringLiteral("NR_DSI"), x.texto(Numero));
-        r.poe(QStringLiteral("NR_DSI_ANTIGA"), x.texto(Antiga));
-        r.poe(QStringLiteral("NR_BEM"), x.texto(Bem));
-        r.poe(QStringLiteral("QT_PROD_UNID_NFS"), x.texto(Quantidade));
-        if (x.texto(Suspensao) == S) {
-            r.poe(QStringLiteral("VL_PROD_UNID_PROD"), x.texto(Valor));
-            r.poe(QStringLiteral("CD_MOEDA_NEG"), x.texto(Moeda));
-            r.poe(QStringLiteral("VL_FRETE_UNID_INT"), x.texto(Frete));
-            r.poe(QStringLiteral("CD_MOEDA_FRETE"), x.texto(MoedaFrete));
-            r.poe(QStringLiteral("VL_SEGURO_UNID_INT"), x.texto(Seguro));
-            r.poe(QStringLiteral("CD_MOEDA_SEGURO"), x.texto(MoedaSeguro));
-        }
+        poe(r, x, campos);
+        if (x.texto(Suspensao) == S)
+            poe(r, x, valores);
         r.poe(QStringLiteral("IND_SUSP_PIS_COFINS"), x.texto(Suspensao));
         m_saida.escreve(r);
     }
@@ -326,26 +315,23 @@ void EscritaIndividual::produtoSemPPB(const QSqlQuery& item)
     m_saida.escreve(r);
 
     enum { Id = 1, Codigo, Ncm, Nome, Unidade, Quantidade, JustII, AliqII, JustIPI, AliqIPI };
+    static const Colunas campos32{{"CD_INT_INSUMO", Codigo}, {"CD_NCM_INSUMO", Ncm}, {"NM_INT_INSUMO", Nome},
+                                  {"NM_UNID_MED_INSUMO", Unidade}, {"QT_INSUMO_POR_PROD", Quantidade}};
+    static const Colunas justificativas33{{"JUST_II_DIF_TEC", JustII}, {"ALIQ_II_DIF_TEC", AliqII},
+                                          {"JUST_IPI_DIF_TIPI", JustIPI}, {"ALIQ_IPI_DIF_TIPI", AliqIPI}};
     const qint64 idItem = item.value(ItId).toLongLong();
     for (; m_insumos->de(idItem); m_insumos->avanca()) {
         const CursorFilhos& x = *m_insumos;
         LinhaRegistro r32 = comItem(32, item);
         r32.poe(QStringLiteral("CD_INT_PROD"), item.value(ItCodigo).toString());
-        r32.poe(QStringLiteral("CD_INT_INSUMO"), x.texto(Codigo));
-        r32.poe(QStringLiteral("CD_NCM_INSUMO"), x.texto(Ncm));
-        r32.poe(QStringLiteral("NM_INT_INSUMO"), x.texto(Nome));
-        r32.poe(QStringLiteral("NM_UNID_MED_INSUMO"), x.texto(Unidade));
-        r32.poe(QStringLiteral("QT_INSUMO_POR_PROD"), x.texto(Quantidade));
+        poe(r32, x, campos32);
         m_saida.escreve(r32);
 
         LinhaRegistro r33 = comItem(33, item);
         r33.poe(QStringLiteral("CD_INT_INSUMO"), x.texto(Codigo));
         r33.poe(QStringLiteral("QT_TOT_INS"), m_totalInsumo.value(x.texto(Codigo)));
         r33.poe(QStringLiteral("CD_LOCAL_DESTINO"), m_cab.destino);
-        r33.poe(QStringLiteral("JUST_II_DIF_TEC"), x.texto(JustII));
-        r33.poe(QStringLiteral("ALIQ_II_DIF_TEC"), x.texto(AliqII));
-        r33.poe(QStringLiteral("JUST_IPI_DIF_TIPI"), x.texto(JustIPI));
-        r33.poe(QStringLiteral("ALIQ_IPI_DIF_TIPI"), x.texto(AliqIPI));
+        poe(r33, x, justificativas33);
         m_saida.escreve(r33);
 
         const qint64 insumo = x.valor(Id).toLongLong();
@@ -358,18 +344,15 @@ void EscritaIndividual::produtoSemPPB(const QSqlQuery& item)
 void EscritaIndividual::registro34(qint64 insumo)
 {
     enum { Cnpj = 1, Serie, Numero, ItemNf, Data, Cfop, Dl288, Quantidade, Valor };
+    static const Colunas campos{{"NR_CNPJ_FORNECEDOR", Cnpj}, {"NR_SERIE_NF_AQUIS", Serie},
+                                {"NR_NF_AQUIS", Numero}, {"NR_ITEM_NF_AQUIS", ItemNf},
+                                {"DT_EMISS_NF_AQUIS", Data}, {"CD_CFOP_NF_AQUIS", Cfop},
+                                {"IND_DL_288_67", Dl288}, {"QT_INSUMO_UNID_NFS", Quantidade},
+                                {"VL_INS_PROD_UNID_NFS", Valor}};
     for (; m_nfaIns->de(insumo); m_nfaIns->avanca()) {
         const CursorFilhos& x = *m_nfaIns;
         LinhaRegistro r(layout(34));
-        r.poe(QStringLiteral("NR_CNPJ_FORNECEDOR"), x.texto(Cnpj));
-        r.poe(QStringLiteral("NR_SERIE_NF_AQUIS"), x.texto(Serie));
-        r.poe(QStringLiteral("NR_NF_AQUIS"), x.texto(Numero));
-        r.poe(QStringLiteral("NR_ITEM_NF_AQUIS"), x.texto(ItemNf));
-        r.poe(QStringLiteral("DT_EMISS_NF_AQUIS"), x.texto(Data));
-        r.poe(QStringLiteral("CD_CFOP_NF_AQUIS"), x.texto(Cfop));
-        r.poe(QStringLiteral("IND_DL_288_67"), x.texto(Dl288));
-        r.poe(QStringLiteral("QT_INSUMO_UNID_NFS"), x.texto(Quantidade));
-        r.poe(QStringLiteral("VL_INS_PROD_UNID_NFS"), x.texto(Valor));
+        poe(r, x, campos);
         m_saida.escreve(r);
     }
 }
@@ -378,23 +361,17 @@ void EscritaIndividual::registro35(qint64 insumo)
 {
     enum { Numero = 1, Antiga, Adicao, ItemAdicao, Dl288, Quantidade, Valor, Moeda, Frete, MoedaFrete, Seguro,
            MoedaSeguro, Suspensao };
+    static const Colunas campos{{"NR_DI", Numero, true}, {"NR_DI_ANTIGA", Antiga, true},
+                                {"NR_ADICAO_DI", Adicao}, {"NR_ITEM_ADICAO", ItemAdicao},
+                                {"IND_DL_288_67", Dl288}, {"QT_INSUMO_UNID_NFS", Quantidade}};
+    static const Colunas valores =
+        valoresImportacao(QStringLiteral("VL_INS_PROD_UNID_NFS"), QStringLiteral("NFS"), Valor);
     for (; m_diIns->de(insumo); m_diIns->avanca()) {
         const CursorFilhos& x = *m_diIns;
         LinhaRegistro r(layout(35));
-        r.poe(QStringLiteral("NR_DI"), x.texto(Numero) == Branco ? QString() : x.texto(Numero));
-        r.poe(QStringLiteral("NR_DI_ANTIGA"), x.texto(Antiga) == Branco ? QString() : x.texto(Antiga));
-        r.poe(QStringLiteral("NR_ADICAO_DI"), x.texto(Adicao));
-        r.poe(QStringLiteral("NR_ITEM_ADICAO"), x.texto(ItemAdicao));
-        r.poe(QStringLiteral("IND_DL_288_67"), x.texto(Dl288));
-        r.poe(QStringLiteral("QT_INSUMO_UNID_NFS"), x.texto(Quantidade));
-        if (x.texto(Dl288) == S) {
-            r.poe(QStringLiteral("VL_INS_PROD_UNID_NFS"), x.texto(Valor));
-            r.poe(QStringLiteral("CD_MOEDA_NEG"), x.texto(Moeda));
-            r.poe(QStringLiteral("VL_FRETE_UNID_NFS"), x.texto(Frete));
-            r.poe(QStringLiteral("CD_MOEDA_FRETE"), x.texto(MoedaFrete));
-            r.poe(QStringLiteral("VL_SEGURO_UNID_NFS"), x.texto(Seguro));
-            r.poe(QStringLiteral("CD_MOEDA_SEGURO"), x.texto(MoedaSeguro));
-        }
+        poe(r, x, campos);
+        if (x.texto(Dl288) == S)
+            poe(r, x, valores);
         r.poe(QStringLiteral("IND_SUSP_PIS_COFINS"), x.texto(Suspensao));
         m_saida.escreve(r);
     }
@@ -403,20 +380,16 @@ void EscritaIndividual::registro35(qint64 insumo)
 void EscritaIndividual::registro36(qint64 insumo)
 {
     enum { Numero = 1, Antiga, Bem, Quantidade, Valor, Moeda, Frete, MoedaFrete, Seguro, MoedaSeguro, Suspensao };
+    static const Colunas campos{{"NR_DSI", Numero, true}, {"NR_DSI_ANTIGA", Antiga, true}, {"NR_BEM", Bem},
+                                {"QT_INSUMO_UNID_NFS", Quantidade}};
+    static const Colunas valores =
+        valoresImportacao(QStringLiteral("VL_INS_UNID_PROD"), QStringLiteral("INT"), Valor);
     for (; m_dsiIns->de(insumo); m_dsiIns->avanca()) {
         const CursorFilhos& x = *m_dsiIns;
         LinhaRegistro r(layout(36));
-        r.poe(QStringLiteral("NR_DSI"), x.texto(Numero) == Branco ? QString() : x.texto(Numero));
-        r.poe(QStringLiteral("NR_DSI_ANTIGA"), x.texto(Antiga) == Branco ? QString() : x.texto(Antiga));
-        r.poe(QStringLiteral("NR_BEM"), x.texto(Bem));
-        r.poe(QStringLiteral("QT_INSUMO_UNID_NFS"), x.texto(Quantidade));
+        poe(r, x, campos);
         // Written whatever the suspension indicator holds, unlike the monthly records 14 and 36.
-        r.poe(QStringLiteral("VL_INS_UNID_PROD"), x.texto(Valor));
-        r.poe(QStringLiteral("CD_MOEDA_NEG"), x.texto(Moeda));
-        r.poe(QStringLiteral("VL_FRETE_UNID_INT"), x.texto(Frete));
-        r.poe(QStringLiteral("CD_MOEDA_FRETE"), x.texto(MoedaFrete));
-        r.poe(QStringLiteral("VL_SEGURO_UNID_INT"), x.texto(Seguro));
-        r.poe(QStringLiteral("CD_MOEDA_SEGURO"), x.texto(MoedaSeguro));
+        poe(r, x, valores);
         r.poe(QStringLiteral("IND_SUSP_PIS_COFINS"), x.texto(Suspensao));
         m_saida.escreve(r);
     }
@@ -439,25 +412,17 @@ void EscritaIndividual::produtoNacional(const QSqlQuery& item)
 
 void GravaVrtIndividual(const CabecalhoVrt& cabecalho, GravacaoVrt& run)
 {
-    run.erroGravacao = false;
-    SaidaVrt saida;
-    try {
-        saida.abre(run.caminhoArquivo(cabecalho.idVrtMicro));
-        cabecalho.escreve(saida, run.origem());
-        EscritaIndividual(cabecalho, run, saida).escreveItens();
-        saida.fecha();
-    } catch (const SaidaVrt::Erro& erro) {
-        saida.abandona();
-        QString texto;
-        switch (erro.numero) {
-        case 61: texto = QStringLiteral("Espaço insuficiente no disco!"); break;
-        case 70: texto = QStringLiteral("Disco protegido contra gravação!"); break;
-        // No text of its own for a file in use (55): it falls with every other error.
-        default: texto = QStringLiteral("Ocorreu um erro na aplicação!") + QLatin1Char('\r') + erro.descricao; break;
-        }
-        MsgBox(texto, Msg::OKOnly | Msg::Critical);
-        run.erroGravacao = true;
-    }
+    EscritaRegistro::gravaArquivo(
+        cabecalho, run, [&](SaidaVrt& saida) { EscritaIndividual(cabecalho, run, saida).escreveItens(); },
+        [](const SaidaVrt::Erro& erro) {
+            switch (erro.numero) {
+            case 61: return QStringLiteral("Espaço insuficiente no disco!");
+            case 70: return QStringLiteral("Disco protegido contra gravação!");
+            // No text of its own for a file in use (55): it falls with every other error.
+            default:
+                return QString(QStringLiteral("Ocorreu um erro na aplicação!") + QLatin1Char('\r') + erro.descricao);
+            }
+        });
 }
 
 }  // namespace ModTrataVrtIndividual

@@ -3,11 +3,11 @@
 #include "file/CabecalhoVrt.h"
 #include "file/CursorFilhos.h"
 #include "file/DocumentosInsumoMensal.h"
+#include "file/EscritaRegistro.h"
 #include "file/GravaVrt.h"
 #include "file/LinhaRegistro.h"
 #include "file/SaidaVrt.h"
 #include "rules/FormatoNumero.h"
-#include "shell/MsgBox.h"
 #include "store/modBancoDados.h"
 
 #include <QHash>
@@ -15,6 +15,9 @@
 #include <memory>
 
 using namespace modBancoDados;
+using EscritaRegistro::Colunas;
+using EscritaRegistro::poe;
+using EscritaRegistro::valoresImportacao;
 
 namespace modTrataVrtMensal {
 
@@ -190,18 +193,15 @@ void EscritaMensal::produtoEstrangeiro(const QSqlQuery& item, const QVector<Dest
 void EscritaMensal::registro12(qint64 destino)
 {
     enum { Cnpj = 1, Serie, Numero, ItemNf, Data, Cfop, Dl288, Obsoleto, Quantidade, Valor, ValorObsoleto };
+    static const Colunas campos{{"NR_CNPJ_FORNECEDOR", Cnpj}, {"NR_SERIE_NF_AQUIS", Serie},
+                                {"NR_NF_AQUIS", Numero}, {"NR_ITEM_NF_AQUIS", ItemNf},
+                                {"DT_EMISS_NF_AQUIS", Data}, {"CD_CFOP_NF_AQUIS", Cfop},
+                                {"IND_DL_288_67", Dl288}, {"IND_OBSOLE_RESIDUO", Obsoleto},
+                                {"QT_PROD_UNID_PROD", Quantidade}};
     for (; m_nfa->de(destino); m_nfa->avanca()) {
         const CursorFilhos& x = *m_nfa;
         LinhaRegistro r(layout(12));
-        r.poe(QStringLiteral("NR_CNPJ_FORNECEDOR"), x.texto(Cnpj));
-        r.poe(QStringLiteral("NR_SERIE_NF_AQUIS"), x.texto(Serie));
-        r.poe(QStringLiteral("NR_NF_AQUIS"), x.texto(Numero));
-        r.poe(QStringLiteral("NR_ITEM_NF_AQUIS"), x.texto(ItemNf));
-        r.poe(QStringLiteral("DT_EMISS_NF_AQUIS"), x.texto(Data));
-        r.poe(QStringLiteral("CD_CFOP_NF_AQUIS"), x.texto(Cfop));
-        r.poe(QStringLiteral("IND_DL_288_67"), x.texto(Dl288));
-        r.poe(QStringLiteral("IND_OBSOLE_RESIDUO"), x.texto(Obsoleto));
-        r.poe(QStringLiteral("QT_PROD_UNID_PROD"), x.texto(Quantidade));
+        poe(r, x, campos);
         if (x.texto(Dl288) == S && x.texto(Obsoleto) == N)
             r.poe(QStringLiteral("VL_PROD_UNID_PROD"), x.texto(Valor));
         if (x.texto(Obsoleto) == S)
@@ -214,27 +214,20 @@ void EscritaMensal::registro13(qint64 destino)
 {
     enum { Numero = 1, Antiga, Adicao, ItemAdicao, Dl288, Obsoleto, Quantidade, Valor, Moeda, Frete, MoedaFrete,
            Seguro, MoedaSeguro, ValorObsoleto, Suspensao };
+    static const Colunas campos{{"NR_DI", Numero}, {"NR_DI_ANTIGA", Antiga}, {"NR_ADICAO_DI", Adicao},
+                                {"NR_ITEM_ADICAO", ItemAdicao}, {"IND_DL_288_67", Dl288},
+                                {"IND_OBSOLE_RESIDUO", Obsoleto}, {"QT_PROD_UNID_PROD", Quantidade}};
+    static const Colunas valores =
+        valoresImportacao(QStringLiteral("VL_PROD_UNID_PROD"), QStringLiteral("INT"), Valor);
     for (; m_di->de(destino); m_di->avanca()) {
         const CursorFilhos& x = *m_di;
         const QString obsoleto = x.texto(Obsoleto);
         // The individual writer reads this working value later in the run.
         m_run.obsoleResiduoMensal = obsoleto;
         LinhaRegistro r(layout(13));
-        r.poe(QStringLiteral("NR_DI"), x.texto(Numero));
-        r.poe(QStringLiteral("NR_DI_ANTIGA"), x.texto(Antiga));
-        r.poe(QStringLiteral("NR_ADICAO_DI"), x.texto(Adicao));
-        r.poe(QStringLiteral("NR_ITEM_ADICAO"), x.texto(ItemAdicao));
-        r.poe(QStringLiteral("IND_DL_288_67"), x.texto(Dl288));
-        r.poe(QStringLiteral("IND_OBSOLE_RESIDUO"), obsoleto);
-        r.poe(QStringLiteral("QT_PROD_UNID_PROD"), x.texto(Quantidade));
-        if ((obsoleto == N && x.texto(Dl288) == S) || x.texto(Suspensao) == S) {
-            r.poe(QStringLiteral("VL_PROD_UNID_PROD"), x.texto(Valor));
-            r.poe(QStringLiteral("CD_MOEDA_NEG"), x.texto(Moeda));
-            r.poe(QStringLiteral("VL_FRETE_UNID_INT"), x.texto(Frete));
-            r.poe(QStringLiteral("CD_MOEDA_FRETE"), x.texto(MoedaFrete));
-            r.poe(QStringLiteral("VL_SEGURO_UNID_INT"), x.texto(Seguro));
-            r.poe(QStringLiteral("CD_MOEDA_SEGURO"), x.texto(MoedaSeguro));
-        }
+        poe(r, x, campos);
+        if ((obsoleto == N && x.texto(Dl288) == S) || x.texto(Suspensao) == S)
+            poe(r, x, valores);
         if (obsoleto == S)
             r.poe(QStringLiteral("VL_TOT_PROD_OBSOLE"), x.texto(ValorObsoleto));
         r.poe(QStringLiteral("IND_SUSP_PIS_COFINS"), x.texto(Suspensao));
@@ -245,21 +238,16 @@ void EscritaMensal::registro13(qint64 destino)
 void EscritaMensal::registro14(qint64 destino)
 {
     enum { Numero = 1, Antiga, Bem, Quantidade, Valor, Moeda, Frete, MoedaFrete, Seguro, MoedaSeguro, Suspensao };
+    static const Colunas campos{{"NR_DSI", Numero}, {"NR_DSI_ANTIGA", Antiga}, {"NR_BEM", Bem},
+                                {"QT_PROD_UNID_PROD", Quantidade}};
+    static const Colunas valores =
+        valoresImportacao(QStringLiteral("VL_PROD_UNID_PROD"), QStringLiteral("INT"), Valor);
     for (; m_dsi->de(destino); m_dsi->avanca()) {
         const CursorFilhos& x = *m_dsi;
         LinhaRegistro r(layout(14));
-        r.poe(QStringLiteral("NR_DSI"), x.texto(Numero));
-        r.poe(QStringLiteral("NR_DSI_ANTIGA"), x.texto(Antiga));
-        r.poe(QStringLiteral("NR_BEM"), x.texto(Bem));
-        r.poe(QStringLiteral("QT_PROD_UNID_PROD"), x.texto(Quantidade));
-        if (x.texto(Suspensao) == S) {
-            r.poe(QStringLiteral("VL_PROD_UNID_PROD"), x.texto(Valor));
-            r.poe(QStringLiteral("CD_MOEDA_NEG"), x.texto(Moeda));
-            r.poe(QStringLiteral("VL_FRETE_UNID_INT"), x.texto(Frete));
-            r.poe(QStringLiteral("CD_MOEDA_FRETE"), x.texto(MoedaFrete));
-            r.poe(QStringLiteral("VL_SEGURO_UNID_INT"), x.texto(Seguro));
-            r.poe(QStringLiteral("CD_MOEDA_SEGURO"), x.texto(MoedaSeguro));
-        }
+        poe(r, x, campos);
+        if (x.texto(Suspensao) == S)
+            poe(r, x, valores);
         r.poe(QStringLiteral("IND_SUSP_PIS_COFINS"), x.texto(Suspensao));
         m_saida.escreve(r);
     }
@@ -341,17 +329,15 @@ void EscritaMensal::produtoSemPPB(const QSqlQuery& item, const QVector<Destino>&
 void EscritaMensal::insumo(const QSqlQuery& item, const QVector<Destino>& destinos)
 {
     enum { Id = 1, Codigo, Ncm, Nome, Unidade, Quantidade, JustII, AliqII, JustIPI, AliqIPI };
+    static const Colunas campos32{{"CD_INT_INSUMO", Codigo}, {"CD_NCM_INSUMO", Ncm}, {"NM_INT_INSUMO", Nome},
+                                  {"NM_UNID_MED_INSUMO", Unidade}, {"QT_INSUMO_POR_PROD", Quantidade}};
     const qint64 idItem = item.value(ItId).toLongLong();
     for (; m_insumos->de(idItem); m_insumos->avanca()) {
         const CursorFilhos& x = *m_insumos;
         const QString codigo = x.texto(Codigo);
         LinhaRegistro r(layout(32));
         r.poe(QStringLiteral("CD_INT_PRODUTO"), item.value(ItCodigo).toString());
-        r.poe(QStringLiteral("CD_INT_INSUMO"), codigo);
-        r.poe(QStringLiteral("CD_NCM_INSUMO"), x.texto(Ncm));
-        r.poe(QStringLiteral("NM_INT_INSUMO"), x.texto(Nome));
-        r.poe(QStringLiteral("NM_UNID_MED_INSUMO"), x.texto(Unidade));
-        r.poe(QStringLiteral("QT_INSUMO_POR_PROD"), x.texto(Quantidade));
+        poe(r, x, campos32);
         m_saida.escreve(r);
 
         LinhaRegistro base(layout(33));
@@ -387,21 +373,20 @@ void EscritaMensal::documentosDoInsumo(const QString& insumo, const QString& des
 {
     using D = DocumentosInsumoMensal;
     const D::Grupo& documentos = m_docsInsumo->de(insumo, destino);
+    static const Colunas campos34{{"NR_CNPJ_FORNECEDOR", D::NfaCnpj}, {"NR_SERIE_NF_AQUIS", D::NfaSerie},
+                                  {"NR_NF_AQUIS", D::NfaNumero}, {"NR_ITEM_NF_AQUIS", D::NfaItem},
+                                  {"DT_EMISS_NF_AQUIS", D::NfaData}, {"CD_CFOP_NF_AQUIS", D::NfaCfop}};
+    static const Colunas fim34{{"QT_INSUMO_UNID_INS", D::NfaQuantidade}, {"VL_INSUMO_UNID_INS", D::NfaValor},
+                               {"CD_INT_INSUMO", D::NfaInsumo}, {"CD_LOCAL_DESTINO", D::NfaDestino}};
     for (const QStringList& x : documentos.nfa) {
         LinhaRegistro r(layout(34));
-        r.poe(QStringLiteral("NR_CNPJ_FORNECEDOR"), x.at(D::NfaCnpj));
-        r.poe(QStringLiteral("NR_SERIE_NF_AQUIS"), x.at(D::NfaSerie));
-        r.poe(QStringLiteral("NR_NF_AQUIS"), x.at(D::NfaNumero));
-        r.poe(QStringLiteral("NR_ITEM_NF_AQUIS"), x.at(D::NfaItem));
-        r.poe(QStringLiteral("DT_EMISS_NF_AQUIS"), x.at(D::NfaData));
-        r.poe(QStringLiteral("CD_CFOP_NF_AQUIS"), x.at(D::NfaCfop));
+        poe(r, x, campos34);
         r.poe(QStringLiteral("IND_DL_288_67"), x.at(D::NfaDl288) == S ? S : N);
-        r.poe(QStringLiteral("QT_INSUMO_UNID_INS"), x.at(D::NfaQuantidade));
-        r.poe(QStringLiteral("VL_INSUMO_UNID_INS"), x.at(D::NfaValor));
-        r.poe(QStringLiteral("CD_INT_INSUMO"), x.at(D::NfaInsumo));
-        r.poe(QStringLiteral("CD_LOCAL_DESTINO"), x.at(D::NfaDestino));
+        poe(r, x, fim34);
         m_saida.escreve(r);
     }
+    static const Colunas valores35 =
+        valoresImportacao(QStringLiteral("VL_INSUMO_UNID_INS"), QStringLiteral("INT"), D::DiValor);
     for (const QStringList& x : documentos.di) {
         LinhaRegistro r(layout(35));
         QString nrDi = x.at(D::DiNumero) == Branco ? QStringLiteral("0000000000")
@@ -421,35 +406,23 @@ void EscritaMensal::documentosDoInsumo(const QString& insumo, const QString& des
         const QString dl = x.at(D::DiDl288) == S ? S : N;
         r.poe(QStringLiteral("IND_DL_288_67"), dl);
         r.poe(QStringLiteral("QT_INSUMO_UNID_INS"), x.at(D::DiQuantidade));
-        if (dl == S || x.at(D::DiSuspensao) == S) {
-            r.poe(QStringLiteral("VL_INSUMO_UNID_INS"), x.at(D::DiValor));
-            r.poe(QStringLiteral("CD_MOEDA_NEG"), x.at(D::DiMoeda));
-            r.poe(QStringLiteral("VL_FRETE_UNID_INT"), x.at(D::DiFrete));
-            r.poe(QStringLiteral("CD_MOEDA_FRETE"), x.at(D::DiMoedaFrete));
-            r.poe(QStringLiteral("VL_SEGURO_UNID_INT"), x.at(D::DiSeguro));
-            r.poe(QStringLiteral("CD_MOEDA_SEGURO"), x.at(D::DiMoedaSeguro));
-        }
+        if (dl == S || x.at(D::DiSuspensao) == S)
+            poe(r, x, valores35);
         r.poe(QStringLiteral("CD_INT_INSUMO"), x.at(D::DiInsumo));
         r.poe(QStringLiteral("CD_LOCAL_DESTINO"), x.at(D::DiDestino));
         r.poe(QStringLiteral("IND_SUSP_PIS_COFINS"), x.at(D::DiSuspensao));
         m_saida.escreve(r);
     }
+    static const Colunas campos36{{"NR_DSI", D::DsiNumero, true}, {"NR_DSI_ANTIGA", D::DsiAntiga, true},
+                                  {"NR_BEM", D::DsiBem}, {"QT_INSUMO_UNID_INS", D::DsiQuantidade},
+                                  {"CD_INT_INSUMO", D::DsiInsumo}, {"CD_LOCAL_DESTINO", D::DsiDestino}};
+    static const Colunas valores36 =
+        valoresImportacao(QStringLiteral("VL_PROD_UNID_PROD"), QStringLiteral("INT"), D::DsiValor);
     for (const QStringList& x : documentos.dsi) {
         LinhaRegistro r(layout(36));
-        r.poe(QStringLiteral("NR_DSI"), x.at(D::DsiNumero) == Branco ? QString() : x.at(D::DsiNumero));
-        r.poe(QStringLiteral("NR_DSI_ANTIGA"), x.at(D::DsiAntiga) == Branco ? QString() : x.at(D::DsiAntiga));
-        r.poe(QStringLiteral("NR_BEM"), x.at(D::DsiBem));
-        r.poe(QStringLiteral("QT_INSUMO_UNID_INS"), x.at(D::DsiQuantidade));
-        r.poe(QStringLiteral("CD_INT_INSUMO"), x.at(D::DsiInsumo));
-        r.poe(QStringLiteral("CD_LOCAL_DESTINO"), x.at(D::DsiDestino));
-        if (x.at(D::DsiSuspensao) == S) {
-            r.poe(QStringLiteral("VL_PROD_UNID_PROD"), x.at(D::DsiValor));
-            r.poe(QStringLiteral("CD_MOEDA_NEG"), x.at(D::DsiMoeda));
-            r.poe(QStringLiteral("VL_FRETE_UNID_INT"), x.at(D::DsiFrete));
-            r.poe(QStringLiteral("CD_MOEDA_FRETE"), x.at(D::DsiMoedaFrete));
-            r.poe(QStringLiteral("VL_SEGURO_UNID_INT"), x.at(D::DsiSeguro));
-            r.poe(QStringLiteral("CD_MOEDA_SEGURO"), x.at(D::DsiMoedaSeguro));
-        }
+        poe(r, x, campos36);
+        if (x.at(D::DsiSuspensao) == S)
+            poe(r, x, valores36);
         r.poe(QStringLiteral("IND_SUSP_PIS_COFINS"), x.at(D::DsiSuspensao));
         m_saida.escreve(r);
     }
@@ -472,25 +445,16 @@ void EscritaMensal::produtoNacional(const QSqlQuery& item)
 
 void GravaVrtMensal(const CabecalhoVrt& cabecalho, GravacaoVrt& run)
 {
-    run.erroGravacao = false;
-    SaidaVrt saida;
-    try {
-        saida.abre(run.caminhoArquivo(cabecalho.idVrtMicro));
-        cabecalho.escreve(saida, run.origem());
-        EscritaMensal(cabecalho, run, saida).escreveItens();
-        saida.fecha();
-    } catch (const SaidaVrt::Erro& erro) {
-        saida.abandona();
-        QString texto;
-        switch (erro.numero) {
-        case 61: texto = QStringLiteral("Espaço insuficiente no disco!"); break;
-        case 70: texto = QStringLiteral("Disco protegido contra gravação!"); break;
-        case 55: texto = QStringLiteral("O arquivo a ser gravado encontra-se aberto por outro aplicativo!"); break;
-        default: return;  // the monthly writer knows no other error: the run reports success
-        }
-        MsgBox(texto, Msg::OKOnly | Msg::Critical);
-        run.erroGravacao = true;
-    }
+    EscritaRegistro::gravaArquivo(
+        cabecalho, run, [&](SaidaVrt& saida) { EscritaMensal(cabecalho, run, saida).escreveItens(); },
+        [](const SaidaVrt::Erro& erro) {
+            switch (erro.numero) {
+            case 61: return QStringLiteral("Espaço insuficiente no disco!");
+            case 70: return QStringLiteral("Disco protegido contra gravação!");
+            case 55: return QStringLiteral("O arquivo a ser gravado encontra-se aberto por outro aplicativo!");
+            default: return QString();  // the monthly writer knows no other error: the run reports success
+            }
+        });
 }
 
 }  // namespace modTrataVrtMensal
