@@ -26,7 +26,8 @@ public:
         QString colunaCodigo;
         QString colunaNome;
         QString colunaComplemento;  // a third column (the NCM's statistical unit), or empty
-        QStringList titulos;        // titles of the shown code, name and complement
+        // Titles of the shown code, name and complement.
+        QStringList titulos = {QStringLiteral("Código"), QStringLiteral("Descrição")};
         QString formatoCodigo;      // display mask of the code ("@@@@.@@.@@"), or empty
         bool codigoSemCaixa = false;  // searches compare codes without regard to case, as the old engine did
         bool filtro = true;
@@ -40,7 +41,8 @@ public:
         bool* peloMenu = nullptr;
         QString sufixoBotoes;  // "Produto": cmdIncluir_Produto ...
         QString nomeCampoCodigo, nomeCampoDescricao, nomeRotuloCodigo, nomeRotuloDescricao;
-        QString rotuloCodigo, rotuloDescricao;
+        QString rotuloCodigo = QStringLiteral("&Código:");
+        QString rotuloDescricao = QStringLiteral("&Descrição:");
         int tamanhoCodigo = 15;
         int tamanhoDescricao = 45;
         QString textoCodigoVazio, textoDescricaoVazia, textoDuplicado;

@@ -14,7 +14,6 @@ AssistenteTabela::Configuracao configuracao()
     c.tabela = QStringLiteral("MOEDA");
     c.colunaCodigo = QStringLiteral("CD_MOEDA");
     c.colunaNome = QStringLiteral("NM_MOEDA");
-    c.titulos = {QStringLiteral("Código"), QStringLiteral("Descrição")};
     c.tamanhoFiltro = 3;
     c.filtroSoDigitos = true;
     c.textoNaoEncontrado = QStringLiteral("Código de moeda não encontrado!");

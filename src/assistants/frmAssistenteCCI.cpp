@@ -14,7 +14,6 @@ AssistenteTabela::Configuracao configuracao()
     c.tabela = QStringLiteral("PRODUTO");
     c.colunaCodigo = QStringLiteral("CD_INT_PRODUTO");
     c.colunaNome = QStringLiteral("NM_INT_PRODUTO");
-    c.titulos = {QStringLiteral("Código"), QStringLiteral("Descrição")};
     c.codigoSemCaixa = true;
     c.tamanhoFiltro = 15;
     c.textoNaoEncontrado = QStringLiteral("Código de produto não encontrado!");
@@ -26,8 +25,6 @@ AssistenteTabela::Configuracao configuracao()
     c.nomeCampoDescricao = QStringLiteral("txtDescricaoProduto");
     c.nomeRotuloCodigo = QStringLiteral("lblCodigoProduto");
     c.nomeRotuloDescricao = QStringLiteral("lblDescricaoProduto");
-    c.rotuloCodigo = QStringLiteral("&Código:");
-    c.rotuloDescricao = QStringLiteral("&Descrição:");
     c.tamanhoCodigo = 15;
     c.tamanhoDescricao = 45;
     c.textoCodigoVazio = QStringLiteral("O campo código do produto deve ser preenchido.");

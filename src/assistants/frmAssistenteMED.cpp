@@ -13,7 +13,6 @@ AssistenteTabela::Configuracao configuracao()
     c.tabela = QStringLiteral("UNIDADE_MEDIDA");
     c.colunaCodigo = QStringLiteral("CD_UNID_MEDIDA");
     c.colunaNome = QStringLiteral("NM_MEDIDA");
-    c.titulos = {QStringLiteral("Código"), QStringLiteral("Descrição")};
     c.filtro = false;
     c.peloMenu = &modVRTPLN::UnidadePeloMenu;
     c.sufixoBotoes = QStringLiteral("UnidadeMedida");
@@ -21,8 +20,6 @@ AssistenteTabela::Configuracao configuracao()
     c.nomeCampoDescricao = QStringLiteral("txtDescricaoUnidade");
     c.nomeRotuloCodigo = QStringLiteral("lblCodigoUnidade");
     c.nomeRotuloDescricao = QStringLiteral("lblDescricaoUnidade");
-    c.rotuloCodigo = QStringLiteral("&Código:");
-    c.rotuloDescricao = QStringLiteral("&Descrição:");
     // Codes are two characters; a unit's name is used with 20 characters by the items and the file.
     c.tamanhoCodigo = 2;
     c.tamanhoDescricao = 20;

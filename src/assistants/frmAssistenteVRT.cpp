@@ -7,6 +7,7 @@
 #include "shell/modVRTPLN.h"
 #include "store/modBancoDados.h"
 #include "widgets/ConsultGrid.h"
+#include "widgets/OkCancelRow.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -45,15 +46,7 @@ frmAssistenteVRT::frmAssistenteVRT(QWidget* pai) : TelaFilha(pai)
     quadro->addWidget(grdAssistenteVRT);
     principal->addWidget(fraAssistenteVRT, 1);
 
-    auto* botoes = new QHBoxLayout;
-    botoes->addStretch(1);
-    cmdOk = new QPushButton(QStringLiteral("Ok"), this);
-    cmdOk->setObjectName(QStringLiteral("cmdOk"));
-    cmdCancela = new QPushButton(QStringLiteral("Cancela"), this);
-    cmdCancela->setObjectName(QStringLiteral("cmdCancela"));
-    botoes->addWidget(cmdOk);
-    botoes->addWidget(cmdCancela);
-    principal->addLayout(botoes);
+    principal->addLayout(okCancelRow(this, cmdOk, cmdCancela));
 
     connect(grdAssistenteVRT, &ConsultGrid::titleClicked, this, &frmAssistenteVRT::grdAssistenteVRT_HeadClick);
     connect(grdAssistenteVRT, &ConsultGrid::rowActivated, this, &frmAssistenteVRT::grdAssistenteVRT_DblClick);

@@ -6,6 +6,7 @@
 #include "shell/MsgBox.h"
 #include "shell/frmVRTPLN.h"
 #include "shell/modVRTPLN.h"
+#include "widgets/OkCancelRow.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -115,15 +116,7 @@ void frmManipulaArquivo::montaTela()
     principal->addWidget(ProgBarCopia);
     principal->addWidget(lblCopiaAnd);
 
-    auto* botoes = new QHBoxLayout;
-    botoes->addStretch(1);
-    cmdOk = new QPushButton(QStringLiteral("Ok"), this);
-    cmdOk->setObjectName(QStringLiteral("cmdOk"));
-    cmdCancela = new QPushButton(QStringLiteral("Cancela"), this);
-    cmdCancela->setObjectName(QStringLiteral("cmdCancela"));
-    botoes->addWidget(cmdOk);
-    botoes->addWidget(cmdCancela);
-    principal->addLayout(botoes);
+    principal->addLayout(okCancelRow(this, cmdOk, cmdCancela));
 
     // In folder mode the file list is out of view and the screen shrinks to what is left.
     if (m_modoPasta) {
