@@ -1,3 +1,4 @@
+#include "TelaCampo.h"
 #include "TestUtil.h"
 
 #include "widgets/DecimalField.h"
@@ -5,33 +6,16 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QVBoxLayout>
 #include <QtTest>
 
 namespace {
 
-struct Screen {
-    QWidget window;
-    DigitField* field;
-    QLineEdit* next;
-
+struct Screen : TelaCampo<DigitField> {
     explicit Screen(int maxLength)
+        : TelaCampo(new DigitField(QStringLiteral("txt100NacionalIndividual(0)"), maxLength))
     {
-        auto* layout = new QVBoxLayout(&window);
-        field = new DigitField(QStringLiteral("txt100NacionalIndividual(0)"), maxLength);
-        layout->addWidget(field);
-        next = new QLineEdit;
-        layout->addWidget(next);
-        window.show();
-        window.activateWindow();
     }
-    bool ready() { return QTest::qWaitForWindowActive(&window); }
-    DigitField* byName() { return window.findChild<DigitField*>(QStringLiteral("txt100NacionalIndividual(0)")); }
-    void enter()
-    {
-        field->setFocus(Qt::TabFocusReason);
-        QCoreApplication::processEvents();
-    }
+    DigitField* byName() { return TelaCampo::byName(QStringLiteral("txt100NacionalIndividual(0)")); }
 };
 
 }  // namespace

@@ -1,29 +1,15 @@
+#include "TelaCampo.h"
 #include "TestUtil.h"
 
 #include "widgets/MaskedField.h"
 
 #include <QApplication>
-#include <QVBoxLayout>
 #include <QtTest>
 
 namespace {
 
-struct Screen {
-    QWidget window;
-    MaskedField* field;
-    QLineEdit* next;
-
-    explicit Screen(const QString& mask)
-    {
-        auto* layout = new QVBoxLayout(&window);
-        field = new MaskedField(mask, QStringLiteral("mskNumNCM100"));
-        layout->addWidget(field);
-        next = new QLineEdit;
-        layout->addWidget(next);
-        window.show();
-        window.activateWindow();
-    }
-    bool ready() { return QTest::qWaitForWindowActive(&window); }
+struct Screen : TelaCampo<MaskedField> {
+    explicit Screen(const QString& mask) : TelaCampo(new MaskedField(mask, QStringLiteral("mskNumNCM100"))) {}
 };
 
 }  // namespace

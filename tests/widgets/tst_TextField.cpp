@@ -1,35 +1,16 @@
+#include "TelaCampo.h"
 #include "TestUtil.h"
 
 #include "widgets/TextField.h"
 
 #include <QApplication>
 #include <QClipboard>
-#include <QVBoxLayout>
 #include <QtTest>
 
 namespace {
 
-struct Screen {
-    QWidget window;
-    TextField* field;
-    QLineEdit* next;
-
-    explicit Screen(int maxLength = 80)
-    {
-        auto* layout = new QVBoxLayout(&window);
-        field = new TextField(QStringLiteral("txtCodProdPE"), maxLength);
-        layout->addWidget(field);
-        next = new QLineEdit;
-        layout->addWidget(next);
-        window.show();
-        window.activateWindow();
-    }
-    bool ready() { return QTest::qWaitForWindowActive(&window); }
-    void enter()
-    {
-        field->setFocus(Qt::TabFocusReason);
-        QCoreApplication::processEvents();
-    }
+struct Screen : TelaCampo<TextField> {
+    explicit Screen(int maxLength = 80) : TelaCampo(new TextField(QStringLiteral("txtCodProdPE"), maxLength)) {}
 };
 
 // Types one character as a key event with its text, for characters beyond Latin-1 as well.
