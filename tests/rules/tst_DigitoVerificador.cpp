@@ -1,3 +1,4 @@
+#include "CaixaDaRegra.h"
 #include "TestUtil.h"
 
 #include "rules/DigitoVerificador.h"
@@ -242,13 +243,7 @@ void tst_DigitoVerificador::validaDCRE()
     QFETCH(int, icone);
     MensagensRoteiro msgs;
     QCOMPARE(ValidaDCRE(numero), valido);
-    if (mensagem.isEmpty()) {
-        QCOMPARE(msgs.caixas.size(), 0);
-        return;
-    }
-    QCOMPARE(msgs.textos(), QStringList{mensagem});
-    QCOMPARE(msgs.caixas.at(0).icone(), icone);
-    QCOMPARE(msgs.caixas.at(0).titulo, TituloPadrao);
+    CONFERE_CAIXA_DA_REGRA(msgs, mensagem, icone);
 }
 
 void tst_DigitoVerificador::cpfConfereComORegraPublicadaEmCemMilNumeros()

@@ -1,3 +1,4 @@
+#include "CaixaDaRegra.h"
 #include "TestUtil.h"
 
 #include "rules/NumerosDocumento.h"
@@ -82,13 +83,7 @@ void tst_NumerosDocumento::numeroDCRE()
     QCOMPARE(ValidaNumeroDCRE(texto, &mostrado), valido);
     if (valido)
         QCOMPARE(mostrado, exibicao);
-    if (mensagem.isEmpty()) {
-        QCOMPARE(msgs.caixas.size(), 0);
-        return;
-    }
-    QCOMPARE(msgs.textos(), QStringList{mensagem});
-    QCOMPARE(msgs.caixas.at(0).icone(), icone);
-    QCOMPARE(msgs.caixas.at(0).titulo, TituloPadrao);
+    CONFERE_CAIXA_DA_REGRA(msgs, mensagem, icone);
 }
 
 void tst_NumerosDocumento::numeroDCR_data()
@@ -120,13 +115,7 @@ void tst_NumerosDocumento::numeroDCR()
     QCOMPARE(ValidaNumeroDCR(texto, &mostrado), valido);
     if (valido)
         QCOMPARE(mostrado, exibicao);
-    if (mensagem.isEmpty()) {
-        QCOMPARE(msgs.caixas.size(), 0);
-        return;
-    }
-    QCOMPARE(msgs.textos(), QStringList{mensagem});
-    QCOMPARE(msgs.caixas.at(0).icone(), Msg::Critical);
-    QCOMPARE(msgs.caixas.at(0).titulo, TituloPadrao);
+    CONFERE_CAIXA_DA_REGRA(msgs, mensagem, Msg::Critical);
 }
 
 void tst_NumerosDocumento::inscricaoEstadual_data()
