@@ -25,6 +25,23 @@ QString naoNulo(const QString& s)
 {
     return s.isNull() ? QString(QLatin1String("")) : s;
 }
+
+// TiraZerosEsquerda for the common case of a field of digits only, without its general number reading (which
+// costs more than the rest of a record): all zeros give an empty text, else the digits after the leading zeros.
+QString tiraZerosEsquerda(const QString& t)
+{
+    if (t.isEmpty())
+        return Funcoes::TiraZerosEsquerda(t);
+    int zeros = -1;
+    for (int i = 0; i < t.size(); ++i) {
+        const char16_t c = t.at(i).unicode();
+        if (c < u'0' || c > u'9')
+            return Funcoes::TiraZerosEsquerda(t);
+        if (zeros < 0 && c != u'0')
+            zeros = i;
+    }
+    return zeros < 0 ? QString(QLatin1String("")) : t.mid(zeros);
+}
 }  // namespace
 
 RegistroLido::RegistroLido(const QString& linha, const LayoutRegistro& layout)
@@ -55,13 +72,13 @@ QString RegistroLido::semZeros(const QString& nome) const
 
 QString RegistroLido::semZerosEsquerda(const QString& nome) const
 {
-    return naoNulo(Funcoes::TiraZerosEsquerda(texto(nome)));
+    return naoNulo(tiraZerosEsquerda(texto(nome)));
 }
 
 QString RegistroLido::decimal(const QString& nome) const
 {
     const CampoLayout& c = campo(nome);
-    return naoNulo(Funcoes::InsereVirgula(Funcoes::TiraZerosEsquerda(c.de(m_linha)), c.casas()));
+    return naoNulo(Funcoes::InsereVirgula(tiraZerosEsquerda(c.de(m_linha)), c.casas()));
 }
 
 QString RegistroLido::data(const QString& nome) const
