@@ -135,6 +135,30 @@ private slots:
         QVERIFY(!tela.isVisible());
     }
 
+    // A double click on a row writes its code into the calling field and closes the list.
+    void duploCliqueNaLinhaPreencheOCampoEFecha()
+    {
+        BancoTeste banco;
+        moedas();
+        ChamadorTeste chamador(DestinosEscolha::moeda(), QStringLiteral("InsumoPISemPPBMensalDSIFI"), false);
+        chamador.codigo->setText(QStringLiteral("22"));
+        MensagensRoteiro msgs;
+        int linhas = -1;
+        QTimer::singleShot(50, this, [&] {
+            auto* tela = qobject_cast<frmAssistMoeda*>(QApplication::activeModalWidget());
+            QVERIFY(tela);
+            ConsultGrid* g = tela->grdAssistMoeda;
+            linhas = g->dataRowCount();
+            QTest::mouseDClick(g->viewport(), Qt::LeftButton, {},
+                               g->visualRect(g->model()->index(1, AssistenteTabela::ColunaCodigoMostrado)).center());
+        });
+        QVERIFY(frmAssistMoeda::Escolhe(QStringLiteral("InsumoPISemPPBMensalDSIFI")));
+        QCOMPARE(linhas, 2);
+        QCOMPARE(chamador.codigo->text(), QStringLiteral("225"));
+        QCOMPARE(QApplication::activeModalWidget(), nullptr);
+        QCOMPARE(msgs.caixas.size(), 0);
+    }
+
     void escolheComecaDoCampoEEscapeNaoMexe()
     {
         BancoTeste banco;
