@@ -37,6 +37,13 @@ frmManipulaArquivo* telaArquivo(frmVRTPLN& janela)
     return qobject_cast<frmManipulaArquivo*>(janela.telaAberta());
 }
 
+// Runs a command of the main window that opens the file screen, and gives the screen.
+frmManipulaArquivo* abrePeloMenu(frmVRTPLN& janela, const QString& comando)
+{
+    janela.acao(comando)->trigger();
+    return telaArquivo(janela);
+}
+
 void vaiParaPasta(frmManipulaArquivo* tela, const QString& pasta)
 {
     auto* modelo = qobject_cast<QFileSystemModel*>(tela->Dir1->model());
@@ -139,8 +146,7 @@ private slots:
         BancoTeste banco;
         frmVRTPLN janela;
         janela.show();
-        janela.acao(QStringLiteral("mnuFerramentasImportarTabelasNCM"))->trigger();
-        frmManipulaArquivo* tela = telaArquivo(janela);
+        frmManipulaArquivo* tela = abrePeloMenu(janela, QStringLiteral("mnuFerramentasImportarTabelasNCM"));
         QVERIFY(clicaArquivo(tela, NomeArquivoBanco));
         QCOMPARE(frmManipulaArquivo::NomeArquivo, NomeArquivoBanco);
         QCOMPARE(frmManipulaArquivo::PastaArquivo, banco.pasta());
@@ -218,8 +224,7 @@ private slots:
                          {T::cabecalho(), T::moeda("220", "DOLAR DOS EUA"), T::moeda("978", "EURO")}));
         frmVRTPLN janela;
         janela.show();
-        janela.acao(QStringLiteral("mnuFerramentasImportarTabelasMoeda"))->trigger();
-        frmManipulaArquivo* tela = telaArquivo(janela);
+        frmManipulaArquivo* tela = abrePeloMenu(janela, QStringLiteral("mnuFerramentasImportarTabelasMoeda"));
         QVERIFY(clicaArquivo(tela, QStringLiteral("moedas.txt")));
         QList<int> valores;
         bool aguardeVisivel = false;
@@ -250,8 +255,7 @@ private slots:
         QVERIFY(T::grava(banco.pasta() + QStringLiteral("/0000109"), {QStringLiteral("00VRT/PLN302.002")}));
         frmVRTPLN janela;
         janela.show();
-        janela.acao(QStringLiteral("mnuFerramentasImportarTabelasMoeda"))->trigger();
-        frmManipulaArquivo* tela = telaArquivo(janela);
+        frmManipulaArquivo* tela = abrePeloMenu(janela, QStringLiteral("mnuFerramentasImportarTabelasMoeda"));
         QVERIFY(clicaArquivo(tela, QStringLiteral("0000109")));
         MensagensRoteiro msgs;
         msgs.responde(Msg::OK);
@@ -286,8 +290,7 @@ private slots:
         };
         frmVRTPLN janela;
         janela.show();
-        janela.acao(QStringLiteral("mnuImportarBancoAnterior"))->trigger();
-        frmManipulaArquivo* tela = telaArquivo(janela);
+        frmManipulaArquivo* tela = abrePeloMenu(janela, QStringLiteral("mnuImportarBancoAnterior"));
         QVERIFY(clicaArquivo(tela, nome));
         MensagensRoteiro msgs;
         msgs.responde(Msg::OK);
@@ -452,8 +455,7 @@ private slots:
         BancoTeste::executa(QStringLiteral("DELETE FROM VRT"));
 
         msgs.limpa();
-        janela.acao(QStringLiteral("mnuFerramentasRestaurarBackup"))->trigger();
-        frmManipulaArquivo* tela = telaArquivo(janela);
+        frmManipulaArquivo* tela = abrePeloMenu(janela, QStringLiteral("mnuFerramentasRestaurarBackup"));
         QVERIFY(clicaArquivo(tela, QStringLiteral("0000109")));
         msgs.responde(Msg::OK);
         QTest::mouseClick(tela->cmdOk, Qt::LeftButton);
