@@ -34,6 +34,23 @@ Colunas valoresImportacao(const QString& campoValor, const QString& unidade, int
 void poe(LinhaRegistro& r, const CursorFilhos& x, const Colunas& colunas);
 void poe(LinhaRegistro& r, const QStringList& x, const Colunas& colunas);
 
+// The names that differ between the two declarations in the product records 12 and 14: the individual counts
+// per unit of the outgoing invoice (..._NFS), the monthly per unit of product (..._PROD).
+struct NomesProduto {
+    QString quantidade;                  // QT_PROD_UNID_NFS / QT_PROD_UNID_PROD
+    bool quantidadeBrancoVazio = false;  // the individual record 12 leaves a blank quantity empty
+    QString valorNota;                   // record 12: VL_INS_PROD_UNID_NFS / VL_PROD_UNID_PROD
+    QString totalObsoleto;               // record 12: VL_TOT_PROD_INT / VL_TOT_PROD_OBSOLE
+};
+
+// Records 12 (acquisition invoices) and 14 (DSI) of one foreign product, from the rows of `x` under `pai`.
+// Columns of 12: parent, CNPJ, series, number, item, date, CFOP, DL 288, obsolete, quantity, value, total.
+// Columns of 14: parent, number, old number, good, quantity, then the six import values, suspension.
+void escreveRegistros12(SaidaVrt& saida, const LayoutRegistro& layout, CursorFilhos& x, qint64 pai,
+                        const NomesProduto& nomes);
+void escreveRegistros14(SaidaVrt& saida, const LayoutRegistro& layout, CursorFilhos& x, qint64 pai,
+                        const NomesProduto& nomes);
+
 // The text a writer shows for a file error; an empty text lets the error pass and the run reports success.
 using MensagemDoErro = QString (*)(const SaidaVrt::Erro& erro);
 

@@ -30,6 +30,14 @@ const LayoutRegistro& layout(int tipo)
     return LayoutRegistro::de(TipoDeclaracao::Individual, tipo);
 }
 
+const EscritaRegistro::NomesProduto& nomesProduto()
+{
+    static const EscritaRegistro::NomesProduto nomes{QStringLiteral("QT_PROD_UNID_NFS"), true,
+                                                     QStringLiteral("VL_INS_PROD_UNID_NFS"),
+                                                     QStringLiteral("VL_TOT_PROD_INT")};
+    return nomes;
+}
+
 // A column taken only where it differs from one blank (a Null is not taken either).
 void poeSeNaoBranco(LinhaRegistro& r, const char* campo, const QVariant& valor)
 {
@@ -213,22 +221,7 @@ void EscritaIndividual::produtoEstrangeiro(const QSqlQuery& item)
 
 void EscritaIndividual::registro12(qint64 item)
 {
-    enum { Cnpj = 1, Serie, Numero, ItemNf, Data, Cfop, Dl288, Obsoleto, Quantidade, Valor, ValorTotal };
-    static const Colunas campos{{"NR_CNPJ_FORNECEDOR", Cnpj}, {"NR_SERIE_NF_AQUIS", Serie},
-                                {"NR_NF_AQUIS", Numero}, {"NR_ITEM_NF_AQUIS", ItemNf},
-                                {"DT_EMISS_NF_AQUIS", Data}, {"CD_CFOP_NF_AQUIS", Cfop},
-                                {"IND_DL_288_67", Dl288}, {"IND_OBSOLE_RESIDUO", Obsoleto},
-                                {"QT_PROD_UNID_NFS", Quantidade, true}};
-    for (; m_nfa->de(item); m_nfa->avanca()) {
-        const CursorFilhos& x = *m_nfa;
-        LinhaRegistro r(layout(12));
-        poe(r, x, campos);
-        if (x.texto(Dl288) == S && x.texto(Obsoleto) == N)
-            r.poe(QStringLiteral("VL_INS_PROD_UNID_NFS"), x.texto(Valor));
-        if (x.texto(Obsoleto) == S)
-            r.poe(QStringLiteral("VL_TOT_PROD_INT"), x.texto(ValorTotal));
-        m_saida.escreve(r);
-    }
+    EscritaRegistro::escreveRegistros12(m_saida, layout(12), *m_nfa, item, nomesProduto());
 }
 
 void EscritaIndividual::registro13(qint64 item)
@@ -259,20 +252,7 @@ void EscritaIndividual::registro13(qint64 item)
 
 void EscritaIndividual::registro14(qint64 item)
 {
-    enum { Numero = 1, Antiga, Bem, Quantidade, Valor, Moeda, Frete, MoedaFrete, Seguro, MoedaSeguro, Suspensao };
-    static const Colunas campos{{"NR_DSI", Numero}, {"NR_DSI_ANTIGA", Antiga}, {"NR_BEM", Bem},
-                                {"QT_PROD_UNID_NFS", Quantidade}};
-    static const Colunas valores =
-        valoresImportacao(QStringLiteral("VL_PROD_UNID_PROD"), QStringLiteral("INT"), Valor);
-    for (; m_dsi->de(item); m_dsi->avanca()) {
-        const CursorFilhos& x = *m_dsi;
-        LinhaRegistro r(layout(14));
-        poe(r, x, campos);
-        if (x.texto(Suspensao) == S)
-            poe(r, x, valores);
-        r.poe(QStringLiteral("IND_SUSP_PIS_COFINS"), x.texto(Suspensao));
-        m_saida.escreve(r);
-    }
+    EscritaRegistro::escreveRegistros14(m_saida, layout(14), *m_dsi, item, nomesProduto());
 }
 
 void EscritaIndividual::produtoComPPB(const QSqlQuery& item)

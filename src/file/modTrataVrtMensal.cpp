@@ -32,6 +32,14 @@ const LayoutRegistro& layout(int tipo)
     return LayoutRegistro::de(TipoDeclaracao::Mensal, tipo);
 }
 
+const EscritaRegistro::NomesProduto& nomesProduto()
+{
+    static const EscritaRegistro::NomesProduto nomes{QStringLiteral("QT_PROD_UNID_PROD"), false,
+                                                     QStringLiteral("VL_PROD_UNID_PROD"),
+                                                     QStringLiteral("VL_TOT_PROD_OBSOLE")};
+    return nomes;
+}
+
 // Columns of the item query.
 enum { ItId, ItModalidade, ItNcm, ItCodigo, ItNome, ItUnidade, ItQtEst, ItQtProd, ItVlProd, ItJustII, ItAliqII,
        ItJustIPI, ItAliqIPI, ItNrDcreDcr, ItTipoCoef };
@@ -192,22 +200,7 @@ void EscritaMensal::produtoEstrangeiro(const QSqlQuery& item, const QVector<Dest
 
 void EscritaMensal::registro12(qint64 destino)
 {
-    enum { Cnpj = 1, Serie, Numero, ItemNf, Data, Cfop, Dl288, Obsoleto, Quantidade, Valor, ValorObsoleto };
-    static const Colunas campos{{"NR_CNPJ_FORNECEDOR", Cnpj}, {"NR_SERIE_NF_AQUIS", Serie},
-                                {"NR_NF_AQUIS", Numero}, {"NR_ITEM_NF_AQUIS", ItemNf},
-                                {"DT_EMISS_NF_AQUIS", Data}, {"CD_CFOP_NF_AQUIS", Cfop},
-                                {"IND_DL_288_67", Dl288}, {"IND_OBSOLE_RESIDUO", Obsoleto},
-                                {"QT_PROD_UNID_PROD", Quantidade}};
-    for (; m_nfa->de(destino); m_nfa->avanca()) {
-        const CursorFilhos& x = *m_nfa;
-        LinhaRegistro r(layout(12));
-        poe(r, x, campos);
-        if (x.texto(Dl288) == S && x.texto(Obsoleto) == N)
-            r.poe(QStringLiteral("VL_PROD_UNID_PROD"), x.texto(Valor));
-        if (x.texto(Obsoleto) == S)
-            r.poe(QStringLiteral("VL_TOT_PROD_OBSOLE"), x.texto(ValorObsoleto));
-        m_saida.escreve(r);
-    }
+    EscritaRegistro::escreveRegistros12(m_saida, layout(12), *m_nfa, destino, nomesProduto());
 }
 
 void EscritaMensal::registro13(qint64 destino)
@@ -237,20 +230,7 @@ void EscritaMensal::registro13(qint64 destino)
 
 void EscritaMensal::registro14(qint64 destino)
 {
-    enum { Numero = 1, Antiga, Bem, Quantidade, Valor, Moeda, Frete, MoedaFrete, Seguro, MoedaSeguro, Suspensao };
-    static const Colunas campos{{"NR_DSI", Numero}, {"NR_DSI_ANTIGA", Antiga}, {"NR_BEM", Bem},
-                                {"QT_PROD_UNID_PROD", Quantidade}};
-    static const Colunas valores =
-        valoresImportacao(QStringLiteral("VL_PROD_UNID_PROD"), QStringLiteral("INT"), Valor);
-    for (; m_dsi->de(destino); m_dsi->avanca()) {
-        const CursorFilhos& x = *m_dsi;
-        LinhaRegistro r(layout(14));
-        poe(r, x, campos);
-        if (x.texto(Suspensao) == S)
-            poe(r, x, valores);
-        r.poe(QStringLiteral("IND_SUSP_PIS_COFINS"), x.texto(Suspensao));
-        m_saida.escreve(r);
-    }
+    EscritaRegistro::escreveRegistros14(m_saida, layout(14), *m_dsi, destino, nomesProduto());
 }
 
 void EscritaMensal::produtoComPPB(const QSqlQuery& item, const QVector<Destino>& destinos)
