@@ -33,38 +33,44 @@ struct Cadastro {
     QString tabela, colunaCodigo, colunaNome;
 };
 
+// A control of the screen by its name; a screen without it cannot be tested at all.
+template <class Controle>
+Controle* peloNome(QWidget* tela, const QString& nome)
+{
+    auto* controle = tela->findChild<Controle*>(nome);
+    if (!controle)
+        qFatal("a tela não tem o controle %s", qPrintable(nome));
+    return controle;
+}
+
 Cadastro abre(bool produto)
 {
     Cadastro c;
     if (produto) {
         ProdutoPeloMenu = true;
-        auto* t = new frmAssistenteCCI;
-        c.tela.reset(t);
-        c.codigo = t->txtCodigoProduto;
-        c.descricao = t->txtDescricaoProduto;
-        c.incluir = t->cmdIncluir_Produto;
-        c.alterar = t->cmdAlterar_Produto;
-        c.excluir = t->cmdExcluir_Produto;
-        c.cancela = t->cmdCancela;
-        c.grade = t->grdAssistenteCCI;
+        c.tela.reset(new frmAssistenteCCI);
         c.tabela = QStringLiteral("PRODUTO");
         c.colunaCodigo = QStringLiteral("CD_INT_PRODUTO");
         c.colunaNome = QStringLiteral("NM_INT_PRODUTO");
     } else {
         UnidadePeloMenu = true;
-        auto* t = new frmAssistenteMED;
-        c.tela.reset(t);
-        c.codigo = t->txtCodigoUnidade;
-        c.descricao = t->txtDescricaoUnidade;
-        c.incluir = t->cmdIncluir_UnidadeMedida;
-        c.alterar = t->cmdAlterar_UnidadeMedida;
-        c.excluir = t->cmdExcluir_UnidadeMedida;
-        c.cancela = t->cmdCancela;
-        c.grade = t->grdAssistenteMED;
+        c.tela.reset(new frmAssistenteMED);
         c.tabela = QStringLiteral("UNIDADE_MEDIDA");
         c.colunaCodigo = QStringLiteral("CD_UNID_MEDIDA");
         c.colunaNome = QStringLiteral("NM_MEDIDA");
     }
+    // The two screens name their controls after their table: txtCodigoProduto, cmdIncluir_UnidadeMedida ...
+    const QString campos = produto ? QStringLiteral("Produto") : QStringLiteral("Unidade");
+    const QString botoes = produto ? QStringLiteral("Produto") : QStringLiteral("UnidadeMedida");
+    QWidget* tela = c.tela.get();
+    c.codigo = peloNome<QLineEdit>(tela, QStringLiteral("txtCodigo") + campos);
+    c.descricao = peloNome<QLineEdit>(tela, QStringLiteral("txtDescricao") + campos);
+    c.incluir = peloNome<QPushButton>(tela, QStringLiteral("cmdIncluir_") + botoes);
+    c.alterar = peloNome<QPushButton>(tela, QStringLiteral("cmdAlterar_") + botoes);
+    c.excluir = peloNome<QPushButton>(tela, QStringLiteral("cmdExcluir_") + botoes);
+    c.cancela = peloNome<QPushButton>(tela, QStringLiteral("cmdCancela"));
+    c.grade = peloNome<ConsultGrid>(tela, produto ? QStringLiteral("grdAssistenteCCI")
+                                                  : QStringLiteral("grdAssistenteMED"));
     c.tela->show();
     QTest::qWait(5);
     return c;
