@@ -48,8 +48,7 @@ private slots:
     void init()
     {
         m_banco = new BancoTeste;
-        BancoTeste::executa(t("INSERT INTO NCM_ITEM (CD_NCM_PRODUTO, DESCR_NCM_PRODUTO, NM_UNID_MED_EST) VALUES "
-                              "('84713012', 'Máquinas portáteis', 'UN')"));
+        cadastraNcmsDosRegistros();
     }
     void cleanup()
     {

@@ -1,6 +1,7 @@
 #pragma once
 // Declaration file lines composed by hand for the reader tests: a line of blanks of the record's length with
 // each field put at its column, so that a test reads like the layout tables it checks. Never the writer's.
+#include "TestUtil.h"
 #include <QByteArray>
 #include <QDate>
 #include <QFile>
@@ -242,6 +243,14 @@ inline QString r41(const QString& codigo, const QString& nome, const QString& un
 }
 
 // Every row of every table, in the order of their keys: two equal dumps mean the database is exactly as it was.
+// The NCM codes the composed item records use, registered as the reader requires.
+inline void cadastraNcmsDosRegistros()
+{
+    BancoTeste::executa(QStringLiteral("INSERT INTO NCM_ITEM (CD_NCM_PRODUTO, DESCR_NCM_PRODUTO, NM_UNID_MED_EST) VALUES "
+                                       "('84713012', 'Máquinas portáteis', 'UN'), "
+                                       "('39269090', 'Outras obras de plástico', 'KG')"));
+}
+
 inline QStringList retratoDoBanco()
 {
     QStringList r;

@@ -24,8 +24,7 @@ QString um(const QString& sql, const QVariantList& v = {})
 }
 void ncm()
 {
-    BancoTeste::executa(t("INSERT INTO NCM_ITEM (CD_NCM_PRODUTO, DESCR_NCM_PRODUTO, NM_UNID_MED_EST) VALUES "
-                          "('84713012', 'Máquinas portáteis', 'UN'), ('39269090', 'Outras obras de plástico', 'KG')"));
+    cadastraNcmsDosRegistros();
 }
 QByteArray conteudo(const QString& caminho)
 {

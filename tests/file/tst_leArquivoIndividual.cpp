@@ -88,8 +88,7 @@ private slots:
     void init()
     {
         m_banco = new BancoTeste;
-        BancoTeste::executa(t("INSERT INTO NCM_ITEM (CD_NCM_PRODUTO, DESCR_NCM_PRODUTO, NM_UNID_MED_EST) VALUES "
-                              "('84713012', 'Máquinas portáteis', 'UN'), ('39269090', 'Outras obras de plástico', 'KG')"));
+        cadastraNcmsDosRegistros();
     }
     void cleanup()
     {
