@@ -5,10 +5,9 @@
 
 #include <QKeyEvent>
 
-DigitField::DigitField(const QString& name, int maxLength, QWidget* parent) : CheckedField(parent)
+DigitField::DigitField(const QString& name, int maxLength, QWidget* parent) : CheckedField(parent), m_limit(this, maxLength)
 {
     setObjectName(name);
-    setMaxLength(maxLength);
     connect(this, &QLineEdit::textEdited, this, &DigitField::onTextEdited);
 }
 
@@ -58,6 +57,7 @@ void DigitField::onTextEdited(const QString&)
     if (m_adjusting)
         return;
     m_adjusting = true;
+    m_limit.trimEdit();
     for (int guard = 0; guard < 64; ++guard) {
         const QString t = text();
         bool clean = true;

@@ -6,6 +6,7 @@
 //     txtItem = new DigitField("txt100NacionalIndividual(0)", 3, this);
 //     txtItem->setZeroMessage(ZeroMessage::GreaterThanZero).setPadWidth(3);
 #include "widgets/CheckedField.h"
+#include "widgets/TypingLimit.h"
 
 class DigitField : public CheckedField {
     Q_OBJECT
@@ -20,6 +21,8 @@ public:
     DigitField& setPadWidth(int width);
 
     bool checkLeave() override;
+    // The most characters the user may type; a longer value set by the program is kept whole.
+    int typingLimit() const { return m_limit.limit(); }
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -29,6 +32,7 @@ private:
     bool accepts(QChar c) const;
     void onTextEdited(const QString& text);
 
+    TypingLimit m_limit;
     QString m_extra;
     bool m_upper = false;
     int m_padWidth = 0;

@@ -5,10 +5,9 @@
 #include <QKeyEvent>
 #include <QTimer>
 
-TextField::TextField(const QString& name, int maxLength, QWidget* parent) : QLineEdit(parent)
+TextField::TextField(const QString& name, int maxLength, QWidget* parent) : QLineEdit(parent), m_limit(this, maxLength)
 {
     setObjectName(name);
-    setMaxLength(maxLength);
     connect(this, &QLineEdit::textEdited, this, &TextField::onTextEdited);
 }
 
@@ -71,6 +70,7 @@ void TextField::onTextEdited(const QString&)
     if (m_adjusting)
         return;
     m_adjusting = true;
+    m_limit.trimEdit();
     const QString t = text();
     QString kept;
     int caret = cursorPosition();

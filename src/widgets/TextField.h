@@ -1,10 +1,13 @@
 #pragma once
 // A free-text field (product code, names, justifications, series). When it gets the focus the caret goes behind
 // what is already there, as the old fields did by sending themselves the End key. It never takes a character
-// that Windows-1252, the declaration file's encoding, cannot hold, and it can refuse more:
+// that Windows-1252, the declaration file's encoding, cannot hold, and it can refuse more. Its length limit is a
+// limit on typing: a longer value set by the program is shown and kept whole (see TypingLimit.h).
 //     txtCodProdPE = new TextField("txtCodProdPE", 15, this);
 //     txtCodProdPE->refuseSpecialCharacters();                  // the VerificaCaracterEspecial set
 //     txtJustifLegalAliqIIPE->refuseCharacters("'");            // justifications drop the apostrophe
+#include "widgets/TypingLimit.h"
+
 #include <QLineEdit>
 
 class TextField : public QLineEdit {
@@ -24,6 +27,8 @@ public:
     TextField& setSelectAllOnFocus(bool selectAll = true);
 
     bool accepts(QChar c) const;
+    // The most characters the user may type.
+    int typingLimit() const { return m_limit.limit(); }
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -32,6 +37,7 @@ protected:
 private:
     void onTextEdited(const QString& text);
 
+    TypingLimit m_limit;
     QString m_refused;
     bool m_lettersAndDigits = false;
     bool m_upper = false;

@@ -6,6 +6,7 @@
 #include "assistants/frmAssistenteMED.h"
 #include "shell/frmVRTPLN.h"
 #include "shell/modVRTPLN.h"
+#include "widgets/TextField.h"
 
 #include <QAction>
 #include <QApplication>
@@ -95,6 +96,12 @@ int linhaDe(ConsultGrid* g, const QString& codigo)
         if (g->cellText(i, AssistenteTabela::ColunaChave) == codigo)
             return i;
     return -1;
+}
+
+int limite(QLineEdit* campo)
+{
+    auto* texto = qobject_cast<TextField*>(campo);
+    return texto ? texto->typingLimit() : -1;
 }
 
 void semeia(const QString& tabela)
@@ -492,13 +499,49 @@ private slots:
     {
         BancoTeste banco;
         Cadastro p = abre(true);
-        QCOMPARE(p.codigo->maxLength(), 15);
-        QCOMPARE(p.descricao->maxLength(), 45);
+        QCOMPARE(limite(p.codigo), 15);
+        QCOMPARE(limite(p.descricao), 45);
         QTest::mouseClick(p.cancela, Qt::LeftButton);
         Cadastro u = abre(false);
-        QCOMPARE(u.codigo->maxLength(), 2);
-        QCOMPARE(u.descricao->maxLength(), 20);
+        QCOMPARE(limite(u.codigo), 2);
+        QCOMPARE(limite(u.descricao), 20);
         QTest::mouseClick(u.cancela, Qt::LeftButton);
+    }
+
+    // The limit is for typing: an imported description longer than the field is shown whole and written back
+    // whole by Alterar when the user changed nothing.
+    void alterarSemMudancaGuardaDescricaoLonga()
+    {
+        BancoTeste banco;
+        const QString longa = QStringLiteral("PARAFUSO SEXTAVADO DE AÇO INOXIDÁVEL M8 X 40 MM COM PORCA E ARRUELA LISA 00");
+        QCOMPARE(longa.size(), 80);
+        BancoTeste::executa(QStringLiteral("DELETE FROM PRODUTO"));
+        BancoTeste::executa(QStringLiteral("INSERT INTO PRODUTO VALUES ('P-80', ?)"), {longa});
+        Cadastro c = abre(true);
+        clicaLinha(c.grade, linhaDe(c.grade, QStringLiteral("P-80")));
+        QCOMPARE(c.descricao->text(), longa);
+        QVERIFY(c.alterar->isEnabled());
+        QTest::mouseClick(c.alterar, Qt::LeftButton);
+        QCOMPARE(BancoTeste::valor(QStringLiteral("SELECT NM_INT_PRODUTO FROM PRODUTO WHERE CD_INT_PRODUTO = 'P-80'"))
+                     .toString(),
+                 longa);
+        // Typing at its end adds nothing; a character taken away cannot be typed back past the limit.
+        clicaLinha(c.grade, linhaDe(c.grade, QStringLiteral("P-80")));
+        c.descricao->setFocus();
+        QTest::qWait(20);
+        c.descricao->end(false);
+        QTest::keyClicks(c.descricao, QStringLiteral("XYZ"));
+        QCOMPARE(c.descricao->text(), longa);
+        QTest::keyClick(c.descricao, Qt::Key_Backspace);
+        QTest::keyClicks(c.descricao, QStringLiteral("12"));
+        QCOMPARE(c.descricao->text(), longa.left(79) + QLatin1Char('1'));
+        QTest::mouseClick(c.alterar, Qt::LeftButton);
+        QCOMPARE(BancoTeste::valor(QStringLiteral("SELECT NM_INT_PRODUTO FROM PRODUTO WHERE CD_INT_PRODUTO = 'P-80'"))
+                     .toString(),
+                 longa.left(79) + QLatin1Char('1'));
+        MensagensRoteiro msgs;
+        msgs.responde(Msg::No);
+        QTest::mouseClick(c.cancela, Qt::LeftButton);
     }
 };
 

@@ -30,7 +30,22 @@ private slots:
     void zeroIsRefusedOnLeaving();
     void filledFieldIsRewrittenToItsWidth();
     void focusSelectsTheWholeText();
+    void longerValueSetByTheProgramIsKeptWhole();
 };
+
+void tst_DigitField::longerValueSetByTheProgramIsKeptWhole()
+{
+    Screen screen(3);
+    QVERIFY(screen.ready());
+    screen.field->setText(QStringLiteral("12345"));
+    QCOMPARE(screen.field->text(), QStringLiteral("12345"));
+    screen.field->setFocus();
+    QTest::qWait(20);
+    screen.field->end(false);
+    QTest::keyClicks(screen.field, QStringLiteral("6"));
+    QCOMPARE(screen.field->text(), QStringLiteral("12345"));
+    QCOMPARE(screen.field->typingLimit(), 3);
+}
 
 void tst_DigitField::typing_data()
 {

@@ -99,7 +99,7 @@ void tst_ProductCodeField::specialCharactersAreRefusedAndLengthIsFifteen()
     screen.field->setFocus(Qt::TabFocusReason);
     QTest::keyClicks(screen.field, QStringLiteral("A\"B'C-1234567890123456"));
     QCOMPARE(screen.field->text(), QStringLiteral("ABC123456789012"));
-    QCOMPARE(screen.field->maxLength(), 15);
+    QCOMPARE(screen.field->typingLimit(), 15);
 }
 
 QTEST_MAIN(tst_ProductCodeField)

@@ -47,6 +47,8 @@ private slots:
     void seriesInCapitals();
     void lettersAndDigitsOnly();
     void lengthIsLimited();
+    void longerValueSetByTheProgramIsKeptWhole();
+    void pastePastTheLimitKeepsWhatFits();
 };
 
 void tst_TextField::caretGoesBehindTheTextOnFocus()
@@ -184,6 +186,41 @@ void tst_TextField::lengthIsLimited()
     screen.enter();
     QTest::keyClicks(screen.field, QStringLiteral("12345678901234567890"));
     QCOMPARE(screen.field->text(), QStringLiteral("123456789012345"));
+}
+
+void tst_TextField::longerValueSetByTheProgramIsKeptWhole()
+{
+    Screen screen(10);
+    QVERIFY(screen.ready());
+    const QString longer = QStringLiteral("ABCDEFGHIJKLMNOP");
+    screen.field->setText(longer);
+    QCOMPARE(screen.field->text(), longer);
+    screen.enter();
+    screen.field->end(false);
+    QTest::keyClicks(screen.field, QStringLiteral("Q"));
+    QCOMPARE(screen.field->text(), longer);
+    // Replacing one selected character keeps the length the text had.
+    screen.field->setSelection(0, 1);
+    QTest::keyClicks(screen.field, QStringLiteral("Z"));
+    QCOMPARE(screen.field->text(), QStringLiteral("ZBCDEFGHIJKLMNOP"));
+    QTest::keyClick(screen.field, Qt::Key_End);
+    QTest::keyClick(screen.field, Qt::Key_Backspace);
+    QTest::keyClick(screen.field, Qt::Key_Backspace);
+    QTest::keyClicks(screen.field, QStringLiteral("123"));
+    QCOMPARE(screen.field->text(), QStringLiteral("ZBCDEFGHIJKLMN12"));
+}
+
+void tst_TextField::pastePastTheLimitKeepsWhatFits()
+{
+    Screen screen(6);
+    QVERIFY(screen.ready());
+    screen.enter();
+    QTest::keyClicks(screen.field, QStringLiteral("AB"));
+    QTest::keyClick(screen.field, Qt::Key_Home);
+    QApplication::clipboard()->setText(QStringLiteral("123456"));
+    QTest::keyClick(screen.field, Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(screen.field->text(), QStringLiteral("1234AB"));
+    QCOMPARE(screen.field->cursorPosition(), 4);
 }
 
 QTEST_MAIN(tst_TextField)
