@@ -71,6 +71,7 @@ void DigitField::onTextEdited(const QString&)
     }
     if (m_upper && text() != text().toUpper()) {
         setText(text().toUpper());
+        setModified(true);
         end(false);
     }
     m_adjusting = false;

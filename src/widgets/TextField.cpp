@@ -84,6 +84,7 @@ void TextField::onTextEdited(const QString&)
         kept = kept.toUpper();
     if (kept != t) {
         setText(kept);
+        setModified(true);
         setCursorPosition(m_upper ? kept.size() : caret);
     } else if (m_upper) {
         end(false);

@@ -142,7 +142,7 @@ private slots:
         QVERIFY(!c.tela->findChild<QGroupBox*>(QStringLiteral("fraFiltro"))->isVisible());
         if (auto* ok = c.tela->findChild<QPushButton*>(QStringLiteral("cmdOk")))
             QVERIFY(!ok->isVisible());
-        QCOMPARE(c.cancela->text(), QStringLiteral("Fechar"));
+        QCOMPARE(c.cancela->text(), QStringLiteral("&Fechar"));
         QVERIFY(c.incluir->isVisible() && c.incluir->isEnabled());
         QVERIFY(c.alterar->isVisible() && !c.alterar->isEnabled());
         QVERIFY(c.excluir->isVisible() && !c.excluir->isEnabled());
@@ -508,12 +508,39 @@ private slots:
         QTest::mouseClick(u.cancela, Qt::LeftButton);
     }
 
+    // Tab goes from the list to the fields and the buttons, not from cell to cell; the list opens with no row
+    // highlighted, since none is chosen; the code column holds a code of fifteen wide letters.
+    void tabSaiDaListaENenhumaLinhaDestacadaAoAbrir()
+    {
+        BancoTeste banco;
+        semeia(QStringLiteral("PRODUTO"));
+        BancoTeste::executa(QStringLiteral("INSERT INTO PRODUTO VALUES ('WWWWWWWWWWWWWWW', 'LARGO')"));
+        Cadastro c = abre(true);
+        QVERIFY(QTest::qWaitForWindowActive(c.tela.get()));
+        QCOMPARE(c.grade->currentRow(), -1);
+        QVERIFY(c.grade->selectionModel()->selectedRows().isEmpty());
+        QVERIFY(c.codigo->text().isEmpty());
+        QVERIFY(!c.alterar->isEnabled());
+        const int linha = linhaDe(c.grade, QStringLiteral("WWWWWWWWWWWWWWW"));
+        QVERIFY(c.grade->columnWidth(AssistenteTabela::ColunaCodigoMostrado)
+                > c.grade->fontMetrics().horizontalAdvance(c.grade->item(linha, 1)->text()));
+        clicaLinha(c.grade, 0);
+        QVERIFY(c.grade->hasFocus());
+        QTest::keyClick(c.grade, Qt::Key_Tab);
+        QVERIFY(c.codigo->hasFocus());
+        QTest::keyClick(c.codigo, Qt::Key_Tab);
+        QVERIFY(c.descricao->hasFocus());
+        QTest::keyClick(c.descricao, Qt::Key_Tab);
+        QVERIFY(c.incluir->hasFocus());
+        QTest::mouseClick(c.cancela, Qt::LeftButton);
+    }
+
     // The limit is for typing: an imported description longer than the field is shown whole and written back
     // whole by Alterar when the user changed nothing.
     void alterarSemMudancaGuardaDescricaoLonga()
     {
         BancoTeste banco;
-        const QString longa = QStringLiteral("PARAFUSO SEXTAVADO DE AÇO INOXIDÁVEL M8 X 40 MM COM PORCA E ARRUELA LISA 00");
+        const QString longa = QStringLiteral("PARAFUSO SEXTAVADO DE AÇO INOXIDÁVEL M8 X 40 MM COM PORCA E ARRUELA LISA 2025 ZN");
         QCOMPARE(longa.size(), 80);
         BancoTeste::executa(QStringLiteral("DELETE FROM PRODUTO"));
         BancoTeste::executa(QStringLiteral("INSERT INTO PRODUTO VALUES ('P-80', ?)"), {longa});
