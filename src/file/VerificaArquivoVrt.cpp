@@ -19,6 +19,26 @@ bool soDigitos(const QString& t)
     }
     return true;
 }
+// The writer's own forms in numeric slots, from data the program accepts, which the reader reads back as they
+// stand: field, value.
+struct FormaDoGravador {
+    const char* campo;
+    const char* valor;
+};
+const FormaDoGravador FormasDoGravador[] = {
+    // A Null CFOP goes out as "000" and a blank.
+    {"CD_OP_FISCAL", "000 "},
+    // The individual record 12 puts the obsolescence indicator, "S" or "N", in a zero-filled slot.
+    {"IND_OBSOLE_RESIDUO", "S"},
+    {"IND_OBSOLE_RESIDUO", "N"},
+};
+bool formaDoGravador(const QString& campo, const QString& valor)
+{
+    for (const FormaDoGravador& f : FormasDoGravador)
+        if (campo == QLatin1String(f.campo) && valor == QLatin1String(f.valor))
+            return true;
+    return false;
+}
 QString ordinal(int n)
 {
     return QString::number(n) + s("º");
@@ -191,8 +211,7 @@ void VerificaArquivoVrt::verificaCampos(int numero, const QString& linha, const 
         }
         if (!c.numerico())
             continue;
-        // A Null CFOP is written as "000" and a blank: the system's own output, read back as it stands.
-        if (c.nome == s("CD_OP_FISCAL") && valor == s("000 "))
+        if (formaDoGravador(c.nome, valor))
             continue;
         if (!soDigitos(valor)) {
             problema(numero, s("campo numérico com \"") + valor + s("\": só dígitos são aceitos"), c.posicao, c.fim(),

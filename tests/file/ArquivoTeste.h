@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QDate>
 #include <QFile>
+#include <QPair>
 #include <QString>
 #include <QStringEncoder>
 #include <QStringList>
@@ -271,6 +272,71 @@ inline QStringList retratoDoBanco()
         }
     }
     return r;
+}
+
+// The declarations the round trips read, write, read and write again, as the lines of their files.
+inline QList<QPair<QString, QStringList>> declaracoesIdaEVolta()
+{
+    const auto t = [](const char* s) { return QString::fromUtf8(s); };
+    return {{t("mensal de todas as modalidades"),
+             cabecalhoMensal() +
+                 QStringList{r11(t("1"), t("P1"), t("Notebook D'Ávila"), t("00000000200000"), t("00000000120000"),
+                                 t("UN"), t("Alíquota “reduzida” €"), t("01000")),
+                             r12(), r13(), r14(),
+                             r21(t("1"), t("P2"), t("Monitor"), t("PC"), t("0000000000"), t("000054321")),
+                             r31(t("P3"), t("Placa mãe"), t("UN"), t("00000000010000"), t("00000000000000"),
+                                 t("00000000005000"), t("00000000000000")),
+                             r32(t("P3"), t("I1"), t("Parafuso"), t("CX 10")), r33(t("I1"), t("00000000002500")),
+                             r34(t("I1")), r35(t("I1")), r36(t("I1")), r41(t("P4"), t("Cabo"), t("M"))}},
+            {t("individual"), cabecalhoIndividual()}};
+}
+
+// A monthly declaration whose round trip is not exact: a zero rectification value, two items of one foreign
+// product, an item with basic process at two destinations, a quantity stored with one decimal.
+inline void insereMensalDasAssimetrias(const QString& id)
+{
+    const auto t = [](const char* s) { return QString::fromUtf8(s); };
+    BancoTeste::executa(t("INSERT INTO VRT (ID_VRT_MICRO, CD_TIPO_VRT, NR_CNPJ_INTERNADOR, IND_MANDADO_JUDIC, "
+                          "NR_BANCO_ARREC, NR_AG_BCO_ARREC, NR_CC_AG_BCO_ARREC, NR_VRT, NR_PROC_ADM_FISCAL, "
+                          "IND_RESTITUICAO, IND_RETIFICACAO) VALUES (?, '2', '12345678000195', 'N', '001', '3344', "
+                          "'12345678', '0912345678', ' ', 'N', 'S')"),
+                        {id});
+    BancoTeste::executa(t("INSERT INTO VRT_MENSAL (ID_VRT_MICRO, DT_REFERENCIA_VRT) VALUES (?, '122008')"), {id});
+    // A rectification value of zero and one of ten.
+    BancoTeste::executa(t("INSERT INTO VALORES_DIVER_RETIF (ID_VRT_MICRO, CD_MOD_RETIF, CD_TIPO_DIVER_RETIF, "
+                          "VL_TOTAL_DIVER_RETIF, NM_MOD_INT_RETIF, NM_TIPO_DIVER_RETIF) VALUES "
+                          "(?, '1', '2', '0,00', 'VRT - PE', 'Imposto de Importação'), "
+                          "(?, '1', '3', '10,00', 'VRT - PE', 'Multa de Mora II')"),
+                        {id, id});
+    // Two items of one foreign product, one destination each.
+    for (const char* local : {"1", "3"}) {
+        BancoTeste::executa(t("INSERT INTO ITEM_VRT_MEN (ID_VRT_MICRO, CD_INT_PRODUTO, NM_INT_PRODUTO, "
+                              "CD_NCM_PRODUTO, NM_UNID_MED_PROD, IND_MOD_INTERNACAO, QT_PROD_UNID_EST) "
+                              "VALUES (?, 'P1', 'Caneca D''Ávila “€”', '84713012', 'UN', '1', '2,00000')"),
+                            {id});
+        BancoTeste::executa(t("INSERT INTO DESTINO_ITEM_VRT_MEN (ID_ITEM_VRT, CD_LOCAL_DESTINO, QT_PROD_LOC_DEST) "
+                              "VALUES ((SELECT MAX(ID_ITEM_VRT) FROM ITEM_VRT_MEN), ?, '1,00000')"),
+                            {t(local)});
+    }
+    // One item with basic process at two destinations.
+    BancoTeste::executa(t("INSERT INTO ITEM_VRT_MEN (ID_VRT_MICRO, CD_INT_PRODUTO, NM_INT_PRODUTO, "
+                          "IND_MOD_INTERNACAO) VALUES (?, 'P2', 'Monitor', '2')"),
+                        {id});
+    BancoTeste::executa(t("INSERT INTO ITEM_VRT_MEN_PI_COM_PPB (ID_ITEM_VRT, NR_DCRE_DCR, CD_TIPO_COEF_REDUCAO) "
+                          "VALUES ((SELECT MAX(ID_ITEM_VRT) FROM ITEM_VRT_MEN), '54321', '2')"));
+    for (const char* local : {"1", "2"}) {
+        BancoTeste::executa(t("INSERT INTO DESTINO_ITEM_VRT_MEN (ID_ITEM_VRT, CD_LOCAL_DESTINO, QT_PROD_LOC_DEST, "
+                              "VL_II_UNIT_DOLAR, PC_COEF_REDUCAO_II, NM_UNID_MED_DEST, VL_PIS, VL_COFINS) VALUES "
+                              "((SELECT MAX(ID_ITEM_VRT) FROM ITEM_VRT_MEN), ?, '3,00000', '0,3500000', '88,00', "
+                              "'PC', '0,1650000', '0,7600000')"),
+                            {t(local)});
+    }
+    // A wholly national product whose quantity was stored with one decimal, not five.
+    BancoTeste::executa(t("INSERT INTO ITEM_VRT_MEN (ID_VRT_MICRO, CD_INT_PRODUTO, NM_INT_PRODUTO, CD_NCM_PRODUTO, "
+                          "NM_UNID_MED_PROD, IND_MOD_INTERNACAO, VL_PROD_UNID_PROD, QT_PROD_UNID_PROD, "
+                          "QT_PROD_UNID_EST) VALUES (?, 'P4', 'Cabo', '84713012', 'M', '4', '12,50', '1,5', "
+                          "'0,70000')"),
+                        {id});
 }
 
 }  // namespace ArquivoTeste
