@@ -12,6 +12,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -65,7 +66,7 @@ void AssistenteTabela::montaTela()
     m_fraFiltro = new QGroupBox(this);
     m_fraFiltro->setObjectName(QStringLiteral("fraFiltro"));
     auto* filtro = new QHBoxLayout(m_fraFiltro);
-    m_lblFiltro = new QLabel(QStringLiteral("Selecione um código"), m_fraFiltro);
+    m_lblFiltro = new QLabel(QStringLiteral("&Selecione um código"), m_fraFiltro);
     m_lblFiltro->setObjectName(QStringLiteral("lblFiltro"));
     // NCM and currency codes are digits in a masked box; a product code is free text without the special
     // characters. Either selects its whole text when it gets the focus.
@@ -77,7 +78,7 @@ void AssistenteTabela::montaTela()
                            ->refuseSpecialCharacters()
                            .setSelectAllOnFocus();
     m_lblFiltro->setBuddy(m_txtCodigo);
-    m_cmdFiltro = botao(QStringLiteral("cmdFiltro"), QStringLiteral("Aplicar"), m_fraFiltro);
+    m_cmdFiltro = botao(QStringLiteral("cmdFiltro"), QStringLiteral("A&plicar"), m_fraFiltro);
     // The field as wide as the longest code it takes.
     m_txtCodigo->setFixedWidth(m_txtCodigo->fontMetrics().horizontalAdvance(QString(m_cfg.tamanhoFiltro + 3, QLatin1Char('W'))));
     filtro->addWidget(m_lblFiltro);
@@ -88,12 +89,8 @@ void AssistenteTabela::montaTela()
 
     m_grade = new ConsultGrid(this);
     m_grade->setObjectName(m_cfg.nomeGrade);
-    QList<ConsultGrid::Column> colunas{{QStringLiteral("chave"), 0, Qt::AlignLeft | Qt::AlignVCenter}};
-    const bool picker = !m_menu;
-    const int larguras[] = {picker ? 130 : 110, picker ? 470 : 380, 220};
-    for (int i = 0; i < m_cfg.titulos.size(); ++i)
-        colunas.append({m_cfg.titulos.at(i), larguras[qMin(i, 2)], Qt::AlignLeft | Qt::AlignVCenter});
-    m_grade->setColumns(colunas);
+    m_grade->setColumns(colunas());
+    m_grade->setEnterActivatesRow(m_cfg.enterComoOk);
     m_grade->setMinimumHeight(260);
     principal->addWidget(m_grade, 1);
 
@@ -134,10 +131,10 @@ void AssistenteTabela::montaTela()
     }
     botoes->addStretch(1);
     if (m_cfg.destinos) {
-        m_cmdOk = botao(QStringLiteral("cmdOk"), QStringLiteral("Ok"), this);
+        m_cmdOk = botao(QStringLiteral("cmdOk"), QStringLiteral("&Ok"), this);
         botoes->addWidget(m_cmdOk);
     }
-    m_cmdCancela = botao(QStringLiteral("cmdCancela"), QStringLiteral("Cancela"), this);
+    m_cmdCancela = botao(QStringLiteral("cmdCancela"), QStringLiteral("&Cancela"), this);
     botoes->addWidget(m_cmdCancela);
     principal->addLayout(botoes);
 
@@ -148,7 +145,7 @@ void AssistenteTabela::montaTela()
             m_cmdOk->hide();
             m_cmdOk->setEnabled(false);
         }
-        m_cmdCancela->setText(QStringLiteral("Fechar"));
+        m_cmdCancela->setText(QStringLiteral("&Fechar"));
         m_cmdAlterar->setEnabled(false);
         m_cmdExcluir->setEnabled(false);
     } else {
@@ -177,7 +174,55 @@ void AssistenteTabela::montaTela()
         if (m_cmdOk && m_cmdOk->isEnabled())
             cmdOk_Click();
     });
+    defineTeclas();
     resize(m_menu ? 640 : 720, 480);
+}
+
+QList<ConsultGrid::Column> AssistenteTabela::colunas() const
+{
+    // The code column holds the longest code whole: its display mask, its digits, or capitals.
+    QString amostra = m_cfg.formatoCodigo;
+    amostra.replace(QLatin1Char('@'), QLatin1Char('0'));
+    if (amostra.isEmpty())
+        amostra = m_cfg.filtroSoDigitos ? QString(m_cfg.tamanhoFiltro, QLatin1Char('0'))
+                                        : QString(qMax(m_cfg.tamanhoCodigo, m_cfg.filtro ? m_cfg.tamanhoFiltro : 0),
+                                                  QLatin1Char('W'));
+    QList<ConsultGrid::Column> lista{{QStringLiteral("chave"), 0, Qt::AlignLeft | Qt::AlignVCenter}};
+    const bool picker = !m_menu;
+    const int larguras[] = {picker ? 130 : 110, picker ? 470 : 380, 220};
+    for (int i = 0; i < m_cfg.titulos.size(); ++i)
+        lista.append({m_cfg.titulos.at(i), larguras[qMin(i, 2)], Qt::AlignLeft | Qt::AlignVCenter,
+                      i == 0 ? amostra : QString()});
+    return lista;
+}
+
+// Ok is the default button of a picker; Enter in the filter applies it and goes to the list; Escape leaves as
+// Cancela does (QDialog's own); Tab goes from the list to the fields and buttons.
+void AssistenteTabela::defineTeclas()
+{
+    setProperty("paginaAjuda", m_cfg.paginaAjuda);
+    if (m_cmdOk && !m_menu)
+        m_cmdOk->setDefault(true);
+    m_txtCodigo->installEventFilter(this);
+    if (m_txtCodigoCadastro) {
+        const QList<QWidget*> ordem{m_grade,    m_txtCodigoCadastro, m_txtDescricaoCadastro, m_cmdIncluir,
+                                    m_cmdAlterar, m_cmdExcluir,       m_cmdCancela};
+        for (int i = 1; i < ordem.size(); ++i)
+            setTabOrder(ordem.at(i - 1), ordem.at(i));
+    }
+}
+
+bool AssistenteTabela::eventFilter(QObject* objeto, QEvent* evento)
+{
+    if (objeto == m_txtCodigo && evento->type() == QEvent::KeyPress) {
+        const int tecla = static_cast<QKeyEvent*>(evento)->key();
+        if (tecla == Qt::Key_Return || tecla == Qt::Key_Enter) {
+            cmdFiltro_Click();
+            m_grade->setFocus(Qt::TabFocusReason);
+            return true;
+        }
+    }
+    return QDialog::eventFilter(objeto, evento);
 }
 
 void AssistenteTabela::defineFiltro(const QString& filtro)
@@ -243,6 +288,10 @@ void AssistenteTabela::carregaGrade()
         linhas << linha;
     }
     m_grade->setRows(linhas);
+    // The maintenance face opens with no row highlighted: a highlighted row would look chosen while the fields
+    // are empty and Alterar is off.
+    if (m_menu)
+        m_grade->clearCurrentRow();
     if (m_cmdOk && !m_menu)
         m_cmdOk->setEnabled(!linhas.isEmpty());
     if (m_cmdAlterar) {

@@ -34,6 +34,9 @@ public:
         int tamanhoFiltro = 15;
         bool filtroSoDigitos = false;
         QString textoNaoEncontrado;  // "Código de ... não encontrado!"
+        // Enter in the list works as Ok (the NCM and currency lists); otherwise as a click on the row.
+        bool enterComoOk = false;
+        QString paginaAjuda;  // the help page F1 opens
         // Picker: where the choice goes. Null for a screen that never picks (units).
         DestinosEscolha* destinos = nullptr;
         const QString* chamador = nullptr;
@@ -64,6 +67,7 @@ public slots:
 
 protected:
     void showEvent(QShowEvent* evento) override;
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
 
     // The controls, by the names each screen gives them (its subclass exposes them under those names).
     QGroupBox* m_fraFiltro = nullptr;
@@ -83,6 +87,8 @@ protected:
 
 private:
     void montaTela();
+    QList<ConsultGrid::Column> colunas() const;
+    void defineTeclas();
     void aoAtivar();
     void carregaGrade();
     void selecionaLinha(int linha);

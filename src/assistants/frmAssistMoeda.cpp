@@ -19,6 +19,8 @@ AssistenteTabela::Configuracao configuracao()
     c.textoNaoEncontrado = QStringLiteral("Código de moeda não encontrado!");
     c.destinos = &DestinosEscolha::moeda();
     c.chamador = &modVRTPLN::ChamadorMoeda;
+    c.paginaAjuda = QStringLiteral("ncm_moeda.html");
+    c.enterComoOk = true;
     return c;
 }
 

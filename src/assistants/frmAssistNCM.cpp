@@ -22,6 +22,8 @@ AssistenteTabela::Configuracao configuracao()
     c.textoNaoEncontrado = QStringLiteral("Código de NCM não encontrado!");
     c.destinos = &DestinosEscolha::ncm();
     c.chamador = &modVRTPLN::ChamadorNCM;
+    c.paginaAjuda = QStringLiteral("ncm_moeda.html");
+    c.enterComoOk = true;
     return c;
 }
 

@@ -30,6 +30,7 @@ AssistenteTabela::Configuracao configuracao()
     c.textoCodigoVazio = QStringLiteral("O campo código do produto deve ser preenchido.");
     c.textoDescricaoVazia = QStringLiteral("O campo descrição do produto deve ser preenchido.");
     c.textoDuplicado = QStringLiteral("O código de produto informado já foi incluído anteriormente.");
+    c.paginaAjuda = QStringLiteral("produtos.html");
     return c;
 }
 

@@ -26,6 +26,7 @@ AssistenteTabela::Configuracao configuracao()
     c.textoCodigoVazio = QStringLiteral("O campo código da unidade de medida deve ser preenchido.");
     c.textoDescricaoVazia = QStringLiteral("O campo descrição da unidade de medida deve ser preenchido.");
     c.textoDuplicado = QStringLiteral("O código de unidade de medida informado já foi incluído anteriormente.");
+    c.paginaAjuda = QStringLiteral("produtos.html");
     return c;
 }
 

@@ -38,20 +38,28 @@ frmAssistenteVRT::frmAssistenteVRT(QWidget* pai) : TelaFilha(pai)
     grdAssistenteVRT->setMultiSelection(true);
     const QStringList titulos = ListaDeclaracoes::Titulos();
     const int larguras[] = {95, 135, 80, 75, 115, 140, 110, 90};
+    // The widest value of each column, so that none is cut.
+    const char* const amostras[] = {"000000/00", "00.000.000/0000-00", "00/00/0000", "Individual",
+                                    "00/0000",   "000000",             "WWWWW",      "Retificadora"};
     QList<ConsultGrid::Column> colunas;
     for (int i = 0; i < titulos.size(); ++i)
-        colunas.append({titulos.at(i), larguras[i], Qt::AlignLeft | Qt::AlignVCenter});
+        colunas.append({titulos.at(i), larguras[i], Qt::AlignLeft | Qt::AlignVCenter, QString::fromUtf8(amostras[i])});
     grdAssistenteVRT->setColumns(colunas);
     grdAssistenteVRT->setMinimumSize(870, 300);
     quadro->addWidget(grdAssistenteVRT);
     principal->addWidget(fraAssistenteVRT, 1);
 
     principal->addLayout(okCancelRow(this, cmdOk, cmdCancela));
+    // Enter works as Ok, on the list too; Escape as Cancela.
+    grdAssistenteVRT->setEnterActivatesRow(true);
+    teclasOkCancela(this, cmdOk, cmdCancela);
+    setProperty("paginaAjuda", QStringLiteral("escolha.html"));
 
     connect(grdAssistenteVRT, &ConsultGrid::titleClicked, this, &frmAssistenteVRT::grdAssistenteVRT_HeadClick);
     connect(grdAssistenteVRT, &ConsultGrid::rowActivated, this, &frmAssistenteVRT::grdAssistenteVRT_DblClick);
     connect(cmdOk, &QPushButton::clicked, this, &frmAssistenteVRT::grdAssistenteVRT_DblClick);
     connect(cmdCancela, &QPushButton::clicked, this, &frmAssistenteVRT::fecha);
+    connect(grdAssistenteVRT, &ConsultGrid::escapePressed, this, &frmAssistenteVRT::fecha);
 
     // The main window centres the screen as it opens it. The newest identifier on top within a year.
     carregaLista(ListaDeclaracoes::Identificacao, QStringLiteral("DESC"));

@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QStyle>
 
 namespace {
 
@@ -26,6 +27,15 @@ QTableWidgetItem* newItem(const QString& value, Qt::Alignment alignment)
 
 }  // namespace
 
+int ConsultGrid::widthFor(const Column& column) const
+{
+    // The cell's and the title's margins, as the style draws them.
+    const int margins = 2 * style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 12;
+    const int value = column.widest.isEmpty() ? 0 : fontMetrics().horizontalAdvance(column.widest);
+    const int title = horizontalHeader()->fontMetrics().horizontalAdvance(column.title);
+    return qMax(value, title) + margins;
+}
+
 ConsultGrid::ConsultGrid(QWidget* parent) : QTableWidget(parent)
 {
     setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -34,6 +44,7 @@ ConsultGrid::ConsultGrid(QWidget* parent) : QTableWidget(parent)
     setSortingEnabled(false);
     setWordWrap(false);
     setAlternatingRowColors(true);
+    setTabKeyNavigation(false);
     verticalHeader()->setVisible(false);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
     horizontalHeader()->setSectionsClickable(true);
@@ -62,7 +73,7 @@ void ConsultGrid::setColumns(const QList<Column>& columns)
     for (int i = 0; i < columns.size(); ++i) {
         setColumnHidden(i, columns.at(i).width == 0);
         if (columns.at(i).width > 0)
-            setColumnWidth(i, columns.at(i).width);
+            setColumnWidth(i, qMax(columns.at(i).width, widthFor(columns.at(i))));
         horizontalHeaderItem(i)->setData(Qt::UserRole, int(columns.at(i).alignment));
     }
 }
@@ -139,6 +150,15 @@ QStringList ConsultGrid::rowTexts(int row) const
     return cells;
 }
 
+void ConsultGrid::clearCurrentRow()
+{
+    m_filling = true;
+    clearSelection();
+    // Through the view, so that the grid does not make its first row current when it gets the focus.
+    setCurrentIndex(QModelIndex());
+    m_filling = false;
+}
+
 void ConsultGrid::setMultiSelection(bool on)
 {
     m_multi = on;
@@ -165,9 +185,13 @@ void ConsultGrid::keyPressEvent(QKeyEvent* event)
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        // Enter works as a click on the row; it must not reach the dialog's default button.
-        if (currentRow() >= 0)
-            emit rowChosen(currentRow());
+        // Enter works as a click on the row, or as Ok; it must not reach the dialog's default button.
+        if (currentRow() >= 0) {
+            if (m_enterActivates)
+                emit rowActivated(currentRow());
+            else
+                emit rowChosen(currentRow());
+        }
         event->accept();
         return;
     case Qt::Key_Escape:

@@ -3,7 +3,9 @@
 // keys and for values that only fill fields, and the row-selection rules of the old flexible grid:
 //   - a click, Enter, or a move with the cursor keys "chooses" the current row (rowChosen);
 //   - a drag never selects several rows; Shift with a key brings the selection back to the current row;
-//   - a double click activates the row (rowActivated), Escape asks to leave (escapePressed);
+//   - a double click activates the row (rowActivated), Escape asks to leave (escapePressed); on a list whose
+//     Enter stands for Ok (setEnterActivatesRow), Enter activates the row instead of choosing it;
+//   - Tab leaves the grid for the next control instead of walking its cells;
 //   - a click on a column title is reported (titleClicked) and sorts nothing by itself;
 //   - cells show their values without trailing blanks; cellText() gives the values as they were given.
 // Screens that let the user pick several rows (the declaration chooser) turn on multi-selection; the rows
@@ -19,6 +21,9 @@ public:
         QString title;
         int width = 100;  // pixels; 0 hides the column
         Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter;
+        // The widest value the column holds at its declared width (15 "W" for a product code): the column is
+        // made at least wide enough to show it whole.
+        QString widest = QString();
     };
 
     explicit ConsultGrid(QWidget* parent = nullptr);
@@ -39,6 +44,11 @@ public:
     QString currentText(int column) const;
     QStringList rowTexts(int row) const;
 
+    // No row current nor highlighted, without choosing any (a list whose first row must not look chosen).
+    void clearCurrentRow();
+    // Enter activates the current row (rowActivated), as Ok does, instead of choosing it.
+    void setEnterActivatesRow(bool on) { m_enterActivates = on; }
+
     // Several rows may be picked with Ctrl and Shift clicks.
     void setMultiSelection(bool on);
     // The rows picked, in the order they were picked (multi-selection), or the current row.
@@ -58,11 +68,13 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
 private:
+    int widthFor(const Column& column) const;
     void onCurrentChanged(int row);
     void onSelectionChanged();
     void selectOnly(int row);
 
     bool m_multi = false;
+    bool m_enterActivates = false;
     bool m_filling = false;
     QList<int> m_order;
 };

@@ -66,8 +66,8 @@ private slots:
         QCOMPARE(tela.grdAssistMoeda->objectName(), QStringLiteral("grdAssistMoeda"));
         QCOMPARE(codigos(tela.grdAssistMoeda), (QStringList{"220", "225", "790", "978"}));
         QCOMPARE(tela.grdAssistMoeda->rowTexts(0).mid(1), (QStringList{"220", "DOLAR DOS EUA"}));
-        QCOMPARE(tela.lblFiltro->text(), QStringLiteral("Selecione um código"));
-        QCOMPARE(tela.cmdFiltro->text(), QStringLiteral("Aplicar"));
+        QCOMPARE(tela.lblFiltro->text(), QStringLiteral("&Selecione um código"));
+        QCOMPARE(tela.cmdFiltro->text(), QStringLiteral("A&plicar"));
     }
 
     void filtro_data()

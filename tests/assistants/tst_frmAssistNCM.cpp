@@ -60,9 +60,9 @@ private slots:
         frmAssistNCM tela;
         ativa(tela);
         QCOMPARE(tela.windowTitle(), QStringLiteral("Selecione a NCM"));
-        QCOMPARE(tela.lblFiltro->text(), QStringLiteral("Selecione um código"));
-        QCOMPARE(tela.cmdFiltro->text(), QStringLiteral("Aplicar"));
-        QCOMPARE(tela.cmdCancela->text(), QStringLiteral("Cancela"));
+        QCOMPARE(tela.lblFiltro->text(), QStringLiteral("&Selecione um código"));
+        QCOMPARE(tela.cmdFiltro->text(), QStringLiteral("A&plicar"));
+        QCOMPARE(tela.cmdCancela->text(), QStringLiteral("&Cancela"));
         QCOMPARE(tela.cmdOk->objectName(), QStringLiteral("cmdOk"));
         QCOMPARE(tela.grdAssistNCM->objectName(), QStringLiteral("grdAssistNCM"));
         QCOMPARE(tela.fraFiltro->objectName(), QStringLiteral("fraFiltro"));
@@ -222,6 +222,36 @@ private slots:
         QVERIFY(!frmAssistNCM::Escolhe(QStringLiteral("produtoPEMensal")));
         QCOMPARE(chamador.codigo->text(), QStringLiteral("8"));
         QCOMPARE(chamador.complemento->text(), QStringLiteral("ANTES"));
+    }
+
+    // Enter in the filter applies it and goes to the list; Enter in the list works as Ok; the code column holds
+    // a whole masked code.
+    void enterNoFiltroAplicaEEnterNaListaFazOOk()
+    {
+        BancoTeste banco;
+        ncms();
+        ChamadorTeste chamador(DestinosEscolha::ncm(), QStringLiteral("produtoPEMensal"));
+        int linhasFiltradas = -1;
+        bool colunaCabe = false;
+        QTimer::singleShot(50, this, [&] {
+            auto* tela = qobject_cast<frmAssistNCM*>(QApplication::activeModalWidget());
+            QVERIFY(tela);
+            ConsultGrid* g = tela->grdAssistNCM;
+            colunaCabe = g->columnWidth(AssistenteTabela::ColunaCodigoMostrado)
+                         > g->fontMetrics().horizontalAdvance(QStringLiteral("0000.00.00"));
+            tela->txtCodigo->setFocus();
+            tela->txtCodigo->selectAll();
+            QTest::keyClicks(tela->txtCodigo, QStringLiteral("0101"));
+            QTest::keyClick(tela->txtCodigo, Qt::Key_Return);
+            linhasFiltradas = g->dataRowCount();
+            QVERIFY(g->hasFocus());
+            QTest::keyClick(g, Qt::Key_Down);
+            QTest::keyClick(g, Qt::Key_Return);
+        });
+        QVERIFY(frmAssistNCM::Escolhe(QStringLiteral("produtoPEMensal")));
+        QCOMPARE(linhasFiltradas, 2);
+        QVERIFY(colunaCabe);
+        QCOMPARE(chamador.codigo->text(), QStringLiteral("01012900"));
     }
 
     // The real NCM table of the fixtures, imported as a table file, is searchable in the picker.

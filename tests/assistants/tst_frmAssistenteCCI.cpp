@@ -72,7 +72,7 @@ private slots:
         QCOMPARE(tela.windowTitle(), QStringLiteral("Selecione o Código do Produto"));
         QVERIFY(tela.fraFiltro->isVisible());
         QVERIFY(tela.cmdOk->isVisible());
-        QCOMPARE(tela.cmdCancela->text(), QStringLiteral("Cancela"));
+        QCOMPARE(tela.cmdCancela->text(), QStringLiteral("&Cancela"));
         for (QWidget* w : {(QWidget*)tela.cmdIncluir_Produto, (QWidget*)tela.cmdAlterar_Produto,
                            (QWidget*)tela.cmdExcluir_Produto, (QWidget*)tela.txtCodigoProduto,
                            (QWidget*)tela.txtDescricaoProduto, (QWidget*)tela.lblCodigoProduto,
@@ -265,6 +265,9 @@ private slots:
         ativa(tela);
         QVERIFY(!tela.cmdAlterar_Produto->isEnabled());
         tela.grdAssistenteCCI->setFocus();
+        // The list opens with no row chosen: the first key goes to the first row.
+        QTest::keyClick(tela.grdAssistenteCCI, Qt::Key_Down);
+        QVERIFY(tela.cmdAlterar_Produto->isEnabled());
         QTest::keyClick(tela.grdAssistenteCCI, Qt::Key_Down);
         QCOMPARE(tela.txtCodigoProduto->text(), QStringLiteral("A200"));
         tela.txtCodigoProduto->clear();
