@@ -6,6 +6,7 @@
 #include "shell/MsgBox.h"
 #include "shell/frmVRTPLN.h"
 #include "shell/modVRTPLN.h"
+#include "widgets/FolderTreeModel.h"
 #include "widgets/OkCancelRow.h"
 
 #include <QApplication>
@@ -75,12 +76,8 @@ void frmManipulaArquivo::montaTela()
     Drive1->setObjectName(QStringLiteral("Drive1"));
     Dir1 = new QTreeView(fraPasta);
     Dir1->setObjectName(QStringLiteral("Dir1"));
-    m_pastas = new QFileSystemModel(this);
-    m_pastas->setFilter(QDir::AllDirs | QDir::NoDotAndDotDot);
-    m_pastas->setReadOnly(true);
+    m_pastas = new FolderTreeModel(this);
     Dir1->setModel(m_pastas);
-    for (int c = 1; c < m_pastas->columnCount(); ++c)
-        Dir1->hideColumn(c);
     Dir1->header()->hide();
     Dir1->setMinimumSize(300, 260);
     pasta->addWidget(Label1);
@@ -110,6 +107,8 @@ void frmManipulaArquivo::montaTela()
     ProgBarCopia->setRange(0, 100);
     ProgBarCopia->setValue(0);
     ProgBarCopia->setTextVisible(false);
+    // Out of view while nothing runs: an empty bar under the lists looks like a path field.
+    ProgBarCopia->setVisible(false);
     lblCopiaAnd = new QLabel(QStringLiteral("Em andamento... AGUARDE"), this);
     lblCopiaAnd->setObjectName(QStringLiteral("lblCopiaAnd"));
     lblCopiaAnd->setVisible(false);
@@ -119,10 +118,18 @@ void frmManipulaArquivo::montaTela()
     principal->addLayout(okCancelRow(this, cmdOk, cmdCancela));
 
     // In folder mode the file list is out of view and the screen shrinks to what is left.
-    if (m_modoPasta) {
+    if (m_modoPasta)
         fraArquivo->hide();
-        ProgBarCopia->hide();
-    }
+    // A double click or Enter on a file works as Ok; Enter elsewhere as Ok, Escape as Cancela.
+    connect(File1, &QListView::activated, this, [this](const QModelIndex& atual) {
+        if (!atual.isValid())
+            return;
+        File1_Click(m_arquivos->fileName(atual));
+        cmdOk_Click();
+    });
+    teclasOkCancela(this, cmdOk, cmdCancela);
+    setProperty("paginaAjuda", ArquivoImportaTabela == QLatin1String("SIM") ? QStringLiteral("tabelas.html")
+                                                                             : QStringLiteral("arquivos.html"));
 
     connect(Drive1, &QComboBox::currentIndexChanged, this, &frmManipulaArquivo::Drive1_Change);
     connect(Dir1->selectionModel(), &QItemSelectionModel::currentChanged, this,
@@ -143,51 +150,56 @@ void frmManipulaArquivo::montaTela()
 
 void frmManipulaArquivo::carregaUnidades()
 {
-    const QString programa =
-        modVRTPLN::CaminhoAplicacao.isEmpty() ? QDir::currentPath() : modVRTPLN::CaminhoAplicacao;
-    const QString raizPrograma = QStorageInfo(programa).rootPath();
-    QStringList raizes;
-    for (const QStorageInfo& v : QStorageInfo::mountedVolumes())
-        if (v.isValid() && v.isReady())
-            raizes << v.rootPath();
-    if (!raizPrograma.isEmpty() && !raizes.contains(raizPrograma))
-        raizes << raizPrograma;
-    raizes.sort();
-    raizes.removeDuplicates();
+    const QString programa = QDir::cleanPath(
+        modVRTPLN::CaminhoAplicacao.isEmpty() ? QDir::currentPath() : modVRTPLN::CaminhoAplicacao);
+    const QList<Lugar> lista = Lugares();
+    QString lugarPrograma = QStringLiteral("/");
     {
         const QSignalBlocker bloqueio(Drive1);
-        for (const QString& r : raizes) {
-            const QString nome = QStorageInfo(r).displayName();
-            Drive1->addItem(nome == r || nome.isEmpty() ? r : QStringLiteral("%1  [%2]").arg(r, nome), r);
+        for (const Lugar& l : lista) {
+            Drive1->addItem(l.nome.isEmpty() ? l.raiz : QStringLiteral("%1  [%2]").arg(l.raiz, l.nome), l.raiz);
+            if (dentroDe(programa, l.raiz) && l.raiz.size() > lugarPrograma.size())
+                lugarPrograma = l.raiz;
         }
-        m_unidadeAnterior = Drive1->findData(raizPrograma);
+        m_unidadeAnterior = Drive1->findData(lugarPrograma);
         Drive1->setCurrentIndex(m_unidadeAnterior);
     }
-    // The tree starts at the program's folder, within its drive.
-    m_pastas->setRootPath(raizPrograma);
-    Dir1->setRootIndex(m_pastas->index(raizPrograma));
-    Dir1->setCurrentIndex(m_pastas->index(programa));
-    mostraPastaAtual();
-    Dir1_Change(programa);
-    // The tree is read in the background: as each folder above the current one arrives, it is opened and the
-    // current folder brought into view.
-    connect(m_pastas, &QFileSystemModel::directoryLoaded, this, [this](const QString& carregada) {
-        if (pastaAtual().startsWith(carregada))
-            mostraPastaAtual();
-    });
-    connect(m_pastas, &QAbstractItemModel::rowsInserted, this, [this](const QModelIndex& pai) {
-        if (pai == Dir1->currentIndex().parent())
-            mostraPastaAtual();
-    });
+    // The tree starts at the program's folder, within its place, read at once so that it opens in view.
+    m_pastas->setRoot(lugarPrograma);
+    selecionaPasta(programa);
 }
 
-void frmManipulaArquivo::mostraPastaAtual()
+QList<frmManipulaArquivo::Lugar> frmManipulaArquivo::Lugares()
 {
-    const QModelIndex atual = Dir1->currentIndex();
-    for (QModelIndex acima = atual.parent(); acima.isValid(); acima = acima.parent())
+    QList<Lugar> lista{{QDir::cleanPath(QDir::homePath()), QStringLiteral("Pasta pessoal")}};
+    // Removable and mounted media; the system's own mount points stay out.
+    QStringList midias;
+    for (const QStorageInfo& v : QStorageInfo::mountedVolumes()) {
+        const QString raiz = QDir::cleanPath(v.rootPath());
+        for (const char* base : {"/media/", "/run/media/", "/mnt/"})
+            if (raiz.startsWith(QLatin1String(base)) && v.isValid() && v.isReady())
+                midias << raiz;
+    }
+    midias.sort();
+    midias.removeDuplicates();
+    for (const QString& m : std::as_const(midias))
+        lista.append({m, QStorageInfo(m).displayName() == m ? QString() : QStorageInfo(m).displayName()});
+    lista.append({QStringLiteral("/"), QString()});
+    return lista;
+}
+
+bool frmManipulaArquivo::dentroDe(const QString& pasta, const QString& raiz)
+{
+    return pasta == raiz || pasta.startsWith(raiz.endsWith(QLatin1Char('/')) ? raiz : raiz + QLatin1Char('/'));
+}
+
+void frmManipulaArquivo::selecionaPasta(const QString& pasta)
+{
+    const QModelIndex indice = m_pastas->indexOf(pasta);
+    for (QModelIndex acima = indice.parent(); acima.isValid(); acima = acima.parent())
         Dir1->expand(acima);
-    // After the tree has laid out the rows just read.
-    QTimer::singleShot(0, this, [this] { Dir1->scrollTo(Dir1->currentIndex(), QAbstractItemView::PositionAtCenter); });
+    Dir1->setCurrentIndex(indice);
+    Dir1->scrollTo(indice, QAbstractItemView::PositionAtCenter);
 }
 
 QString frmManipulaArquivo::pastaAtual() const
@@ -212,10 +224,8 @@ void frmManipulaArquivo::Drive1_Change(int indice)
         return;
     }
     m_unidadeAnterior = indice;
-    m_pastas->setRootPath(raiz);
-    Dir1->setRootIndex(m_pastas->index(raiz));
-    Dir1->setCurrentIndex(m_pastas->index(raiz));
-    mostraPastaAtual();
+    m_pastas->setRoot(raiz);
+    selecionaPasta(raiz);
 }
 
 void frmManipulaArquivo::Dir1_Change(const QString& pasta)
@@ -240,6 +250,7 @@ void frmManipulaArquivo::atualizaLista()
 void frmManipulaArquivo::emAndamento(bool sim)
 {
     lblCopiaAnd->setVisible(sim);
+    ProgBarCopia->setVisible(sim);
     ProgBarCopia->setValue(0);
     if (sim)
         QApplication::setOverrideCursor(Qt::WaitCursor);

@@ -13,6 +13,7 @@
 #include <functional>
 
 class QComboBox;
+class FolderTreeModel;
 class QFileSystemModel;
 class QGroupBox;
 class QLabel;
@@ -44,6 +45,15 @@ public:
 
     // The folder the tree shows, and the file list's folder.
     QString pastaAtual() const;
+    // Opens the tree down to `pasta`, within the place chosen in Drive1, and makes it the current folder.
+    void selecionaPasta(const QString& pasta);
+
+    // The places Drive1 lists: the user's home, mounted media, and the root of the file system.
+    struct Lugar {
+        QString raiz;
+        QString nome;
+    };
+    static QList<Lugar> Lugares();
 
     QGroupBox* fraPasta;
     QGroupBox* fraArquivo;
@@ -65,7 +75,6 @@ private:
     void carregaUnidades();
     void Drive1_Change(int indice);
     void Dir1_Change(const QString& pasta);
-    void mostraPastaAtual();
     void File1_Click(const QString& nome);
     void cmdOk_Click();
     void cmdCancela_Click();
@@ -74,7 +83,9 @@ private:
     void emAndamento(bool sim);
     void avanca(int percentual);
 
-    QFileSystemModel* m_pastas = nullptr;
+    static bool dentroDe(const QString& pasta, const QString& raiz);
+
+    FolderTreeModel* m_pastas = nullptr;
     QFileSystemModel* m_arquivos = nullptr;
     bool m_modoPasta = false;
     int m_unidadeAnterior = -1;

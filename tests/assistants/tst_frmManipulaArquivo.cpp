@@ -9,6 +9,7 @@
 #include "file/frmManipulaArquivo.h"
 #include "shell/frmVRTPLN.h"
 #include "shell/modVRTPLN.h"
+#include "widgets/FolderTreeModel.h"
 #include "widgets/ConsultGrid.h"
 
 #include <QAction>
@@ -46,8 +47,18 @@ frmManipulaArquivo* abrePeloMenu(frmVRTPLN& janela, const QString& comando)
 
 void vaiParaPasta(frmManipulaArquivo* tela, const QString& pasta)
 {
-    auto* modelo = qobject_cast<QFileSystemModel*>(tela->Dir1->model());
-    tela->Dir1->setCurrentIndex(modelo->index(pasta));
+    tela->selecionaPasta(pasta);
+}
+
+// The place of Drive1 that holds a folder: the longest root that contains it.
+QString lugarDe(const QString& pasta)
+{
+    QString lugar;
+    for (const frmManipulaArquivo::Lugar& l : frmManipulaArquivo::Lugares())
+        if ((pasta == l.raiz || pasta.startsWith(l.raiz == QLatin1String("/") ? l.raiz : l.raiz + QLatin1Char('/')))
+            && l.raiz.size() > lugar.size())
+            lugar = l.raiz;
+    return lugar;
 }
 
 // Clicks a file of the list once the list has read its folder.
@@ -123,13 +134,15 @@ private slots:
         QVERIFY(tela->fraArquivo->isVisible());
         QCOMPARE(tela->Label1->text(), QStringLiteral("Selecione unidade e pasta de origem."));
         QCOMPARE(tela->Label2->text(), QStringLiteral("Selecione o arquivo para importação."));
-        QCOMPARE(tela->cmdOk->text(), QStringLiteral("Ok"));
-        QCOMPARE(tela->cmdCancela->text(), QStringLiteral("Cancela"));
+        QCOMPARE(tela->cmdOk->text(), QStringLiteral("&Ok"));
+        QCOMPARE(tela->cmdCancela->text(), QStringLiteral("&Cancela"));
         QVERIFY(!tela->lblCopiaAnd->isVisible());
         QCOMPARE(tela->lblCopiaAnd->text(), QStringLiteral("Em andamento... AGUARDE"));
-        // It starts at the program's folder, on its drive.
+        // It starts at the program's folder, on its place.
         QCOMPARE(tela->pastaAtual(), banco.pasta());
-        QCOMPARE(tela->Drive1->currentData().toString(), QStorageInfo(banco.pasta()).rootPath());
+        QCOMPARE(tela->Drive1->currentData().toString(), lugarDe(banco.pasta()));
+        // Nothing runs: no progress bar in view.
+        QVERIFY(!tela->ProgBarCopia->isVisible());
         QTest::mouseClick(tela->cmdCancela, Qt::LeftButton);
     }
 
@@ -178,6 +191,84 @@ private slots:
         QCOMPARE(msgs.textos(), QStringList{QStringLiteral("Selecione um arquivo!")});
         QCOMPARE(msgs.caixas[0].icone(), Msg::Critical);
         QCOMPARE(TelaAtual, int(ManipulaArquivo));
+    }
+
+    // The tree opens with the program's folder chosen and in view, before any event is processed, and it stays
+    // where it is afterwards: a click aimed at a folder lands on it.
+    void arvoreAbreNaPastaDoProgramaSemPular()
+    {
+        BancoTeste banco;
+        const QTemporaryDir outra;  // a folder beside the program's, whatever else there is
+        frmVRTPLN janela;
+        janela.show();
+        janela.acao(QStringLiteral("mnuDeclaracaoImportar"))->trigger();
+        frmManipulaArquivo* tela = telaArquivo(janela);
+        QVERIFY(tela);
+        QCOMPARE(tela->pastaAtual(), banco.pasta());
+        const QModelIndex atual = tela->Dir1->currentIndex();
+        QVERIFY(tela->Dir1->selectionModel()->isSelected(atual));
+        const QRect antes = tela->Dir1->visualRect(atual);
+        QVERIFY(tela->Dir1->viewport()->rect().contains(antes));
+        QTest::qWait(300);
+        QCOMPARE(tela->Dir1->visualRect(tela->Dir1->currentIndex()), antes);
+        // A click on the folder beside it chooses that folder.
+        const QModelIndex vizinha = atual.sibling(atual.row() > 0 ? atual.row() - 1 : atual.row() + 1, 0);
+        QVERIFY(vizinha.isValid());
+        const QRect alvo = tela->Dir1->visualRect(vizinha);
+        QVERIFY(tela->Dir1->viewport()->rect().contains(alvo));
+        QTest::mouseClick(tela->Dir1->viewport(), Qt::LeftButton, {}, alvo.center());
+        QCOMPARE(tela->pastaAtual(), qobject_cast<FolderTreeModel*>(tela->Dir1->model())->filePath(vizinha));
+        QTest::mouseClick(tela->cmdCancela, Qt::LeftButton);
+    }
+
+    // The drive list is the user's places: home, mounted media and the root, not the system's mount points.
+    void unidadesSaoOsLugaresDoUsuario()
+    {
+        BancoTeste banco;
+        frmManipulaArquivo tela;
+        QStringList raizes;
+        for (int i = 0; i < tela.Drive1->count(); ++i)
+            raizes << tela.Drive1->itemData(i).toString();
+        QVERIFY(raizes.contains(QDir::cleanPath(QDir::homePath())));
+        QVERIFY(raizes.contains(QStringLiteral("/")));
+        for (const QString& r : raizes) {
+            QVERIFY2(r == QLatin1String("/") || r == QDir::cleanPath(QDir::homePath()) || r.startsWith(QLatin1String("/media/"))
+                         || r.startsWith(QLatin1String("/run/media/")) || r.startsWith(QLatin1String("/mnt/")),
+                     qPrintable(r));
+        }
+    }
+
+    // A double click on a file, or Enter on it, works as Ok; Escape as Cancela.
+    void duploCliqueEEnterNoArquivoFazemOOk()
+    {
+        BancoTeste banco;
+        QFile outro(banco.pasta() + QStringLiteral("/outro.mdb"));
+        QVERIFY(outro.open(QIODevice::WriteOnly));
+        outro.close();
+        const QString recusa = QStringLiteral("O arquivo localizado não é o banco de dados da versão 1.0 do sistema!\n"
+                                              "O arquivo a ser localizado é:\n"
+                                              "C:\\PROJETOS\\VRT-PLN\\PLN_VRT.mdb");
+        frmVRTPLN janela;
+        janela.show();
+        QVERIFY(QTest::qWaitForWindowActive(&janela));
+        frmManipulaArquivo* tela = abrePeloMenu(janela, QStringLiteral("mnuImportarBancoAnterior"));
+        QVERIFY(clicaArquivo(tela, QStringLiteral("outro.mdb")));
+        const QModelIndex indice = tela->File1->currentIndex();
+        {
+            MensagensRoteiro msgs;
+            msgs.responde(Msg::OK);
+            QTest::mouseDClick(tela->File1->viewport(), Qt::LeftButton, {}, tela->File1->visualRect(indice).center());
+            QCOMPARE(msgs.textos(), QStringList{recusa});
+        }
+        {
+            MensagensRoteiro msgs;
+            msgs.responde(Msg::OK);
+            tela->File1->setFocus();
+            QTest::keyClick(tela->File1, Qt::Key_Return);
+            QCOMPARE(msgs.textos(), QStringList{recusa});
+        }
+        QTest::keyClick(tela->File1, Qt::Key_Escape);
+        QCOMPARE(TelaAtual, 0);
     }
 
     // A drive without a disk keeps the previous folder and shows the message.
