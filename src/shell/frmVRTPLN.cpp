@@ -6,8 +6,12 @@
 #include "shell/modVRTPLN.h"
 #include "store/modBancoDados.h"
 #include "widgets/TelaFilha.h"
+#include "widgets/ToolbarIcon.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
+#include <QScreen>
 #include <QDialog>
 #include <QLabel>
 #include <QMdiArea>
@@ -80,7 +84,54 @@ frmVRTPLN::frmVRTPLN(QWidget* parent) : QMainWindow(parent)
     criaMenus();
     criaBarraFerramentas();
     criaBarraStatus();
-    resize(1024, 720);
+    // F1 anywhere in the program opens the help page of the screen in front.
+    qApp->installEventFilter(this);
+    if (QScreen* tela = screen())
+        ajustaATela(tela->availableGeometry());
+}
+
+void frmVRTPLN::ajustaATela(const QRect& disponivel)
+{
+    // The window's frame, as far as the window system tells it before the window is shown.
+    const QMargins moldura(4, 28, 4, 4);
+    const QSize livre = disponivel.marginsRemoved(moldura).size();
+    resize(QSize(1024, 720).boundedTo(livre).expandedTo(minimumSizeHint().boundedTo(livre)));
+    move(disponivel.topLeft() + QPoint(moldura.left() + (livre.width() - width()) / 2,
+                                       moldura.top() + (livre.height() - height()) / 2));
+}
+
+QString frmVRTPLN::paginaAjuda(QWidget* alvo)
+{
+    for (QWidget* w = alvo; w; w = w->parentWidget()) {
+        const QString pagina = w->property("paginaAjuda").toString();
+        if (!pagina.isEmpty())
+            return pagina;
+    }
+    return QStringLiteral("index.html");
+}
+
+void frmVRTPLN::ajudaDaTela(QWidget* origem)
+{
+    // The screen in front: a modal one, else the one the key was pressed in, else the active child screen.
+    QWidget* alvo = origem;
+    if (QWidget* modal = QApplication::activeModalWidget(); modal && !(alvo && modal->isAncestorOf(alvo)))
+        alvo = modal;
+    if (alvo && qobject_cast<frmAjuda*>(alvo->window()))
+        return;
+    if (paginaAjuda(alvo) == QLatin1String("index.html"))
+        if (QMdiSubWindow* janela = m_mdi->activeSubWindow())
+            alvo = janela->widget();
+    frmAjuda::mostra(CaminhoAplicacao + QStringLiteral("/help/") + paginaAjuda(alvo), this);
+}
+
+bool frmVRTPLN::eventFilter(QObject* objeto, QEvent* evento)
+{
+    if (evento->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(evento)->key() == Qt::Key_F1
+        && objeto->isWidgetType()) {
+        ajudaDaTela(static_cast<QWidget*>(objeto));
+        return true;
+    }
+    return QMainWindow::eventFilter(objeto, evento);
 }
 
 frmVRTPLN::~frmVRTPLN()
@@ -234,16 +285,16 @@ void frmVRTPLN::criaBarraFerramentas()
         int indice;
         const char* dica;
         const char* comando;
-        QStyle::StandardPixmap icone;
+        ToolbarIcon icone;
     };
     const Botao botoes[] = {
-        {2, "Nova VRT Mensal", "mnuDeclaracaoNovaMensal", QStyle::SP_FileIcon},
-        {3, "Nova VRT Individual", "mnuDeclaracaoNovaIndividual", QStyle::SP_FileDialogDetailedView},
-        {5, "Abrir VRT", "mnuDeclaracaoAbrir", QStyle::SP_DialogOpenButton},
-        {6, "Salvar VRT", "mnuDeclaracaoSalvar", QStyle::SP_DialogSaveButton},
-        {7, "Eliminar VRT", "mnuDeclaracaoEliminar", QStyle::SP_TrashIcon},
-        {8, "Fechar VRT", "mnuDeclaracaoFechar", QStyle::SP_DialogCloseButton},
-        {10, "Copiar VRT", "mnuDeclaracaoCopiarDeclaracao", QStyle::SP_FileDialogContentsView},
+        {2, "Nova VRT Mensal", "mnuDeclaracaoNovaMensal", ToolbarIcon::NewMonthly},
+        {3, "Nova VRT Individual", "mnuDeclaracaoNovaIndividual", ToolbarIcon::NewIndividual},
+        {5, "Abrir VRT", "mnuDeclaracaoAbrir", ToolbarIcon::Open},
+        {6, "Salvar VRT", "mnuDeclaracaoSalvar", ToolbarIcon::Save},
+        {7, "Eliminar VRT", "mnuDeclaracaoEliminar", ToolbarIcon::Delete},
+        {8, "Fechar VRT", "mnuDeclaracaoFechar", ToolbarIcon::Close},
+        {10, "Copiar VRT", "mnuDeclaracaoCopiarDeclaracao", ToolbarIcon::Copy},
     };
     m_barra->addSeparator()->setObjectName(QStringLiteral("tlbDeclaracao(1)"));
     for (const Botao& b : botoes) {
@@ -251,7 +302,7 @@ void frmVRTPLN::criaBarraFerramentas()
             m_barra->addSeparator()->setObjectName(QStringLiteral("tlbDeclaracao(%1)").arg(b.indice - 1));
         // The button is its own action, kept in step with the menu item's enabled state.
         QAction* menu = m_acoes.value(QLatin1String(b.comando));
-        auto* botao = new QAction(style()->standardIcon(b.icone), QString::fromUtf8(b.dica), this);
+        auto* botao = new QAction(toolbarIcon(b.icone), QString::fromUtf8(b.dica), this);
         botao->setObjectName(QStringLiteral("tlbDeclaracao(%1)").arg(b.indice));
         botao->setToolTip(QString::fromUtf8(b.dica));
         connect(botao, &QAction::triggered, menu, &QAction::trigger);
@@ -270,7 +321,8 @@ void frmVRTPLN::criaBarraStatus()
         m_paineis[i] = new QLabel(this);
         m_paineis[i]->setObjectName(QStringLiteral("staDeclaracao(%1)").arg(i + 1));
         m_paineis[i]->setFrameStyle(QFrame::Panel | QFrame::Sunken);
-        m_paineis[i]->setMinimumWidth(160);
+        // Narrow enough that the window fits a small screen at a large scale; the panels share the width there is.
+        m_paineis[i]->setMinimumWidth(fontMetrics().horizontalAdvance(QLatin1Char('W')) * 4);
         statusBar()->addPermanentWidget(m_paineis[i], i == 0 ? 3 : 1);
     }
     m_paineis[2]->setText(QStringLiteral("Versão ") + VersaoPrograma);

@@ -37,8 +37,17 @@ public:
     TelaFilha* telaAberta() const;
     void abreTelaArquivo(const QString& importaTabela, const QString& titulo);
 
+    // Sizes and places the window within `disponivel`, the screen's free area: never larger, at any scale.
+    void ajustaATela(const QRect& disponivel);
+    // The help page of a screen: the "paginaAjuda" property of the widget or of the first of its parents that
+    // has one; the first page otherwise.
+    static QString paginaAjuda(QWidget* alvo);
+    // F1 pressed in `origem`: the help page of the screen in front.
+    void ajudaDaTela(QWidget* origem);
+
 protected:
     void closeEvent(QCloseEvent* evento) override;
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
 
 private:
     void criaMenus();

@@ -13,6 +13,7 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QToolBar>
 #include <QtTest>
 
@@ -93,6 +94,9 @@ private slots:
     void fecharComEditorQueRecusaMantemOProgramaAberto();
     void sairComTelaQueAceitaFechaAConexao();
     void capturasDaJanelaPrincipalEDoSobre();
+    void janelaCabeNaTela_data();
+    void janelaCabeNaTela();
+    void iconesDaBarraMostramCadaComandoESeuEstado();
 };
 
 void tst_frmVRTPLN::menusTemLegendasTeclasDeAcessoESeparadores_data()
@@ -508,6 +512,75 @@ void tst_frmVRTPLN::capturasDaJanelaPrincipalEDoSobre()
     QCOMPARE(sobre.lblDescription->text(), QStringLiteral("Programa gerador de dados para a Vistoria de Remessa Tributada"));
     QCOMPARE(sobre.lblTitle->text(), QStringLiteral("VRT - Vistoria de Remessa Tributada"));
     QCOMPARE(sobre.cmdSysInfo->text(), QStringLiteral("&Informações"));
+}
+
+void tst_frmVRTPLN::janelaCabeNaTela_data()
+{
+    QTest::addColumn<QRect>("area");
+    // The screen's own free area (at whatever scale the test runs), and what 1024 x 768 leaves at a scale of 2.
+    QTest::newRow("tela do teste") << QRect();
+    QTest::newRow("1024x768 em escala 2") << QRect(0, 0, 512, 384 - 24);
+}
+
+// The whole window, status bar included, stands within the free area of the screen.
+void tst_frmVRTPLN::janelaCabeNaTela()
+{
+    QFETCH(QRect, area);
+    BancoTeste banco(false);
+    frmVRTPLN janela;
+    if (area.isNull())
+        area = janela.screen()->availableGeometry();
+    else
+        janela.ajustaATela(area);
+    janela.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&janela));
+    QVERIFY2(area.contains(janela.frameGeometry()),
+             qPrintable(QStringLiteral("%1x%2+%3+%4")
+                            .arg(janela.frameGeometry().width())
+                            .arg(janela.frameGeometry().height())
+                            .arg(janela.frameGeometry().x())
+                            .arg(janela.frameGeometry().y())));
+    QWidget* status = janela.findChild<QWidget*>("staDeclaracao");
+    QVERIFY(status->isVisible());
+    QVERIFY(janela.rect().contains(QRect(status->mapTo(&janela, QPoint(0, 0)), status->size())));
+    for (int i = 1; i <= 3; ++i)
+        QVERIFY(janela.rect().contains(janela.painel(i)->geometry().translated(status->mapTo(&janela, QPoint(0, 0)))));
+}
+
+namespace {
+bool temCor(const QImage& imagem)
+{
+    for (int y = 0; y < imagem.height(); ++y)
+        for (int x = 0; x < imagem.width(); ++x) {
+            const QColor c = imagem.pixelColor(x, y);
+            if (c.alpha() > 128 && c.hsvSaturation() > 100)
+                return true;
+        }
+    return false;
+}
+}  // namespace
+
+// Each command has its own picture, in colour when it is on, grey and faded when it is off.
+void tst_frmVRTPLN::iconesDaBarraMostramCadaComandoESeuEstado()
+{
+    frmVRTPLN janela;
+    QList<QImage> ligados;
+    for (int indice : {2, 3, 5, 6, 7, 8, 10}) {
+        QAction* botao = janela.acao(QStringLiteral("tlbDeclaracao(%1)").arg(indice));
+        QVERIFY(!botao->icon().isNull());
+        const QImage ligado = botao->icon().pixmap(24, QIcon::Normal).toImage();
+        const QImage desligado = botao->icon().pixmap(24, QIcon::Disabled).toImage();
+        QVERIFY2(temCor(ligado), qPrintable(botao->toolTip()));
+        QVERIFY2(!temCor(desligado), qPrintable(botao->toolTip()));
+        QVERIFY(ligado != desligado);
+        for (const QImage& outro : std::as_const(ligados))
+            QVERIFY2(outro != ligado, qPrintable(botao->toolTip()));
+        ligados << ligado;
+    }
+    // Nova VRT Mensal is on with nothing open, and its button draws the enabled picture.
+    QAction* mensal = janela.acao(QStringLiteral("tlbDeclaracao(2)"));
+    QVERIFY(mensal->isEnabled());
+    QVERIFY(janela.findChild<QToolBar*>("tlbDeclaracao")->widgetForAction(mensal)->isEnabled());
 }
 
 QTEST_MAIN(tst_frmVRTPLN)
