@@ -165,7 +165,7 @@ void frmManipulaArquivo::carregaUnidades()
         Drive1->setCurrentIndex(m_unidadeAnterior);
     }
     // The tree starts at the program's folder, within its place, read at once so that it opens in view.
-    m_pastas->setRoot(lugarPrograma);
+    m_pastas->setRoot(lugarPrograma, Drive1->currentText());
     selecionaPasta(programa);
 }
 
@@ -224,7 +224,7 @@ void frmManipulaArquivo::Drive1_Change(int indice)
         return;
     }
     m_unidadeAnterior = indice;
-    m_pastas->setRoot(raiz);
+    m_pastas->setRoot(raiz, Drive1->itemText(indice));
     selecionaPasta(raiz);
 }
 

@@ -21,11 +21,11 @@ QStandardItem* FolderTreeModel::newFolder(const QString& path, const QString& na
     return item;
 }
 
-void FolderTreeModel::setRoot(const QString& path)
+void FolderTreeModel::setRoot(const QString& path, const QString& label)
 {
     clear();
     m_root = QDir::cleanPath(path);
-    const QString name = QDir(m_root).dirName();
+    const QString name = label.isEmpty() ? QDir(m_root).dirName() : label;
     appendRow(newFolder(m_root, name.isEmpty() ? m_root : name));
 }
 

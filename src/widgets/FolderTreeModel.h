@@ -13,8 +13,8 @@ class FolderTreeModel : public QStandardItemModel {
 public:
     explicit FolderTreeModel(QObject* parent = nullptr);
 
-    // Empties the model and makes `path` its one top folder.
-    void setRoot(const QString& path);
+    // Empties the model and makes `path` its one top folder, shown as `label` (its name when empty).
+    void setRoot(const QString& path, const QString& label = QString());
     QString root() const { return m_root; }
     // The index of a folder at or under the root (the root's when `path` is outside it).
     QModelIndex indexOf(const QString& path);
