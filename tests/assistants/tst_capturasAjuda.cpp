@@ -69,6 +69,20 @@ void salva(QWidget* alvo, const QString& nome)
     }
 }
 
+// A part of a widget, the toolbar's buttons, made larger so that the icons can be seen in the page.
+void salvaParte(QWidget* alvo, const QRect& parte, const QString& nome)
+{
+    QTest::qWait(50);
+    const QPixmap imagem = alvo->grab(parte.adjusted(-2, -2, 2, 2));
+    QVERIFY(!imagem.isNull());
+    const QPixmap maior = imagem.scaled(imagem.size() * 2, Qt::KeepAspectRatio, Qt::FastTransformation);
+    const QString pasta = QStringLiteral(VRT_BINARY_DIR "/capturas/ajuda");
+    QDir().mkpath(pasta);
+    QVERIFY(maior.save(pasta + QLatin1Char('/') + nome));
+    if (qEnvironmentVariableIntValue("VRT_ATUALIZA_AJUDA") == 1)
+        QVERIFY(maior.save(QStringLiteral(VRT_SOURCE_DIR "/help/img/") + nome));
+}
+
 // A drive of sample folders, so that the picture shows a user's folders and nothing of the machine's.
 QString mostraDisco(const QString& raiz)
 {
@@ -81,9 +95,7 @@ void escolheDisco(frmManipulaArquivo* tela, const QString& raiz, const QString& 
 {
     tela->Drive1->addItem(QStringLiteral("D:  [Dados]"), raiz);
     tela->Drive1->setCurrentIndex(tela->Drive1->count() - 1);
-    auto* modelo = qobject_cast<QFileSystemModel*>(tela->Dir1->model());
-    QTest::qWait(300);
-    tela->Dir1->setCurrentIndex(modelo->index(pasta));
+    tela->selecionaPasta(pasta);
     QTest::qWait(300);
 }
 
@@ -152,6 +164,28 @@ private slots:
             imagens += caminho.startsWith(QLatin1String("img/")) ? 1 : 0;
         }
         QVERIFY(imagens >= 1);
+    }
+
+    // The toolbar with nothing open (Salvar and Fechar off) and with a declaration open (only those two on).
+    void barraDeFerramentas()
+    {
+        BancoTeste banco;
+        frmVRTPLN principal;
+        principal.show();
+        QWidget* barra = principal.findChild<QWidget*>(QStringLiteral("tlbDeclaracao"));
+        QVERIFY(barra);
+        TelaAtual = 0;
+        HabilitaMenus(false);
+        QVERIFY(!principal.acao(QStringLiteral("tlbDeclaracao(6)"))->isEnabled());
+        QVERIFY(principal.acao(QStringLiteral("tlbDeclaracao(2)"))->isEnabled());
+        const QRect parte = barra->childrenRect();
+        salvaParte(barra, parte, QStringLiteral("tlbDeclaracao.png"));
+        TelaAtual = Mensal;
+        HabilitaMenus(true);
+        QVERIFY(principal.acao(QStringLiteral("tlbDeclaracao(6)"))->isEnabled());
+        QVERIFY(!principal.acao(QStringLiteral("tlbDeclaracao(2)"))->isEnabled());
+        salvaParte(barra, parte, QStringLiteral("tlbDeclaracao_editor.png"));
+        TelaAtual = 0;
     }
 
     void escolhaDeDeclaracoes()
@@ -243,7 +277,7 @@ private slots:
         BancoTeste::executa(QStringLiteral("DELETE FROM NCM_ITEM"));
         QTemporaryDir pasta;
         QVERIFY(ArquivoTabela::grava(pasta.filePath(QStringLiteral("ncm.txt")),
-                                     ArquivoTabela::linhasNcm(ArquivoTabela::ncmReal(QStringLiteral(VRT_REFDATA_DIR)))));
+                                     ArquivoTabela::linhasNcm(ArquivoTabela::ncmReal(qEnvironmentVariable("VRT_REFDATA_DIR", QStringLiteral(VRT_REFDATA_DIR))))));
         MensagensRoteiro msgs;
         msgs.responde(Msg::OK);
         ArquivoImportaTabela = QStringLiteral("SIM");
