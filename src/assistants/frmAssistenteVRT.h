@@ -2,6 +2,7 @@
 // The declaration chooser: the one list of all declarations, opened by the main window for one of five actions
 // (FuncaoForm): 0 open in its editor, 1 eliminate, 2 copy, 3 write for transmission, 4 write a backup. A double
 // click on a row or Ok runs the action on the current row; for writing, several rows may be picked.
+#include "shell/modVRTPLN.h"
 #include "widgets/TelaFilha.h"
 
 #include <QString>
@@ -16,8 +17,8 @@ class frmAssistenteVRT : public TelaFilha {
 public:
     enum Acao { Abrir = 0, Eliminar = 1, Copiar = 2, GravarTransmissao = 3, GravarBackup = 4 };
 
-    // The identification of the row an editor opens, read by the editor as it loads.
-    static inline QString IdVrtAbrir;
+    // The identification of the row an editor opens, read by the editor as it loads (a session value).
+    static inline QString& IdVrtAbrir = modVRTPLN::IdVrtAbrir;
 
     explicit frmAssistenteVRT(QWidget* pai = nullptr);
 

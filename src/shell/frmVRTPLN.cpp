@@ -343,6 +343,7 @@ void frmVRTPLN::abreEscolha(int funcao)
 
 void frmVRTPLN::novaDeclaracao(int tela, int funcao)
 {
+    IdVrtAbrir.clear();
     m_paineis[1]->clear();
     abreTela(tela);
     if (TelaFilha* editor = telaAberta(); editor && TelaAtual == tela)
