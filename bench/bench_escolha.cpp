@@ -1,10 +1,10 @@
 // Times the declaration chooser on 5,000 declarations: building the screen with its list, and the reorder by
 // the creation date that a click on the column title asks for.
-#include "assistants/frmAssistenteVRT.h"
-#include "shell/MsgBox.h"
-#include "shell/modVRTPLN.h"
-#include "store/modBancoDados.h"
-#include "widgets/ConsultGrid.h"
+#include "gui/assistants/frmAssistenteVRT.h"
+#include "core/session/MsgBox.h"
+#include "core/session/modVRTPLN.h"
+#include "core/store/modBancoDados.h"
+#include "gui/widgets/ConsultGrid.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -1,7 +1,7 @@
 // Builds the delivered database: the schema, then every reference data script (*.sql) of the data folder in name
 // order, then every reference table (*.tsv: currencies, states, commercial units, NCM), each named after its table.
 // Usage: vrt-criabanco schema.sql PASTA_DADOS ARQUIVO_SAIDA
-#include "store/ScriptSql.h"
+#include "core/store/ScriptSql.h"
 
 #include <QCoreApplication>
 #include <QDir>
