@@ -51,7 +51,7 @@ QSqlQuery prepara(const QString& sql)
 
 void ncm()
 {
-    ExecutaSql(QStringLiteral("INSERT INTO NCM_ITEM (CD_NCM_PRODUTO, DESCR_NCM_PRODUTO, NM_UNID_MED_EST) VALUES "
+    ExecutaSql(QStringLiteral("INSERT OR REPLACE INTO NCM_ITEM (CD_NCM_PRODUTO, DESCR_NCM_PRODUTO, NM_UNID_MED_EST) VALUES "
                               "('84713012', 'Máquinas portáteis', 'UN'), ('39269090', 'Obras de plástico', 'KG')"));
 }
 

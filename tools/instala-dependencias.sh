@@ -2,7 +2,7 @@
 # Installs the Debian packages the build and the tests need, when they are missing; with nothing missing it only
 # asks dpkg once and says nothing.
 set -euo pipefail
-pacotes=(cmake make g++ qt6-base-dev qt6-base-dev-tools libqt6sql6-sqlite libgl-dev sqlite3 ccache)
+pacotes=(cmake make g++ qt6-base-dev qt6-base-dev-tools libqt6sql6-sqlite libgl-dev sqlite3 ccache python3)
 mapfile -t faltam < <(dpkg-query -W -f='${Status} ${Package}\n' "${pacotes[@]}" 2>&1 |
     awk '!/install ok installed/ {print $NF}')
 [ ${#faltam[@]} -eq 0 ] && exit 0

@@ -19,6 +19,17 @@ QString ZeroEsquerda(const QString& valor, int tamanho)
     return QString(tamanho - texto.size(), QLatin1Char('0')) + texto;
 }
 
+QString TiraBrancos(const QString& valor)
+{
+    qsizetype inicio = 0;
+    qsizetype fim = valor.size();
+    while (inicio < fim && valor.at(inicio) == QLatin1Char(' '))
+        ++inicio;
+    while (fim > inicio && valor.at(fim - 1) == QLatin1Char(' '))
+        --fim;
+    return inicio == fim ? QStringLiteral("") : valor.mid(inicio, fim - inicio);
+}
+
 QString BrancoDireita(const QString& valor, int tamanho)
 {
     if (valor.size() >= tamanho)

@@ -27,6 +27,10 @@ QString InsereVirgula(const QString& valor, int casas);
 // empty.
 QString TiraZerosEsquerda(const QString& valor);
 
+// The text without the blanks (character 32) at its two ends; any other character, the non-breaking space 160
+// and the tab included, stays. Null gives empty.
+QString TiraBrancos(const QString& valor);
+
 // Every occurrence of `caractere` becomes the acute accent "´", so that a quote never reaches a statement.
 QString TrocaApostrofo(const QString& valor, const QString& caractere = QStringLiteral("'"));
 

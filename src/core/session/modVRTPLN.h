@@ -21,6 +21,9 @@ inline bool UnidadePeloMenu = false;
 inline QString ChamadorNCM;
 inline QString ChamadorProduto;
 inline QString ChamadorMoeda;
+// The identification the declaration chooser last picked, read by an editor as it loads; a new declaration
+// clears it, so that its editor starts empty.
+inline QString IdVrtAbrir;
 
 inline const QString VersaoPrograma = QStringLiteral("04.00");
 inline const QString VersaoLayout = QStringLiteral("02.00");

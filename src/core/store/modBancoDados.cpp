@@ -130,10 +130,22 @@ QVariant ValorUnico(const QString& sql, const QVariantList& valores)
     return q.next() ? q.value(0) : QVariant();
 }
 
+bool ArquivoSomenteLeitura(const QString& arquivo)
+{
+    const QFileInfo info(arquivo);
+    // The user with every right (root) may write a file marked read-only: its permission bits still say so.
+    const auto escrita = QFileDevice::WriteOwner | QFileDevice::WriteGroup | QFileDevice::WriteOther;
+    return !info.isWritable() || !(info.permissions() & escrita);
+}
+
 bool CompactaBanco(const QString& arquivo)
 {
     if (!QFileInfo::exists(arquivo)) {
         MsgBox(QStringLiteral("O banco de dados não foi encontrado:\n%1").arg(arquivo), Msg::Critical);
+        return false;
+    }
+    if (ArquivoSomenteLeitura(arquivo)) {
+        MsgBox(QStringLiteral("O banco de dados está protegido contra gravação:\n%1").arg(arquivo), Msg::Critical);
         return false;
     }
     const QString nome = QStringLiteral("Compactacao");
@@ -143,6 +155,10 @@ bool CompactaBanco(const QString& arquivo)
         db.setDatabaseName(arquivo);
         ok = db.open();
         QSqlQuery q(db);
+        // What the file system refuses (a read-only mount, a file held by another program) shows only in a
+        // real write: one that is rolled back at once.
+        ok = ok && q.exec(QStringLiteral("BEGIN")) && q.exec(QStringLiteral("CREATE TABLE SONDA_ESCRITA (X)"))
+             && q.exec(QStringLiteral("ROLLBACK"));
         ok = ok && q.exec(QStringLiteral("PRAGMA page_count")) && q.next();
         const qint64 paginas = ok ? q.value(0).toLongLong() : 0;
         ok = ok && q.exec(QStringLiteral("PRAGMA freelist_count")) && q.next();
@@ -151,7 +167,7 @@ bool CompactaBanco(const QString& arquivo)
         if (ok && livres > 16 && livres * 4 > paginas)
             ok = q.exec(QStringLiteral("VACUUM"));
         if (!ok)
-            MsgBox(QStringLiteral("O banco de dados não pode ser aberto:\n%1\n%2").arg(arquivo, db.lastError().text()),
+            MsgBox(QStringLiteral("O banco de dados não pode ser aberto:\n%1\n%2").arg(arquivo, (q.lastError().isValid() ? q.lastError() : db.lastError()).text()),
                    Msg::Critical);
         db.close();
     }

@@ -34,8 +34,12 @@ void ExecutaSql(const QString& sql, const QVariantList& valores = {}, int* afeta
 QVariant ValorUnico(const QString& sql, const QVariantList& valores = {});
 
 // Compacts the database file when it pays (free pages over a threshold), so that the file does not grow
-// from start to start. Returns false, with a message shown, when the file is missing or cannot be opened.
+// from start to start. Returns false, with a message shown, when the file is missing, read-only, cannot be
+// opened or refuses a write, whatever its free pages.
 bool CompactaBanco(const QString& arquivo);
+// The file is marked read-only (by its permission bits, even for a user who could write it anyway) or cannot
+// be written by this user.
+bool ArquivoSomenteLeitura(const QString& arquivo);
 
 // Transactions on the session's connection.
 void IniciaTransacao();

@@ -2,6 +2,7 @@
 // The declaration chooser: the one list of all declarations, opened by the main window for one of five actions
 // (FuncaoForm, FuncaoEscolha): open in its editor, eliminate, copy, write for transmission, write a backup. A double
 // click on a row or Ok runs the action on the current row; for writing, several rows may be picked.
+#include "core/session/modVRTPLN.h"
 #include "gui/screens/TelaFilha.h"
 #include "gui/screens/Telas.h"
 
@@ -23,8 +24,8 @@ public:
         GravarBackup = FuncaoEscolha::GravarBackup
     };
 
-    // The identification of the row an editor opens, read by the editor as it loads.
-    static inline QString IdVrtAbrir;
+    // The identification of the row an editor opens, read by the editor as it loads (a session value).
+    static inline QString& IdVrtAbrir = modVRTPLN::IdVrtAbrir;
 
     explicit frmAssistenteVRT(QWidget* pai = nullptr);
 

@@ -384,6 +384,7 @@ void frmVRTPLN::abreEscolha(int funcao)
 
 void frmVRTPLN::novaDeclaracao(int tela, int funcao)
 {
+    IdVrtAbrir.clear();
     m_paineis[1]->clear();
     AbreTelaComFuncao(tela, funcao);
 }

@@ -19,6 +19,8 @@ private slots:
     void insereVirgula();
     void tiraZerosEsquerda_data();
     void tiraZerosEsquerda();
+    void tiraBrancosTiraSoOsBrancosDasPontas_data();
+    void tiraBrancosTiraSoOsBrancosDasPontas();
     void trocaApostrofo_data();
     void trocaApostrofo();
     void nuloEVazioDaoOMesmoResultado();
@@ -220,6 +222,30 @@ void tst_Formatadores::valorVaiAoArquivoEVolta()
     const QString arquivo = ZeroEsquerda(TiraCaractere(valor, QStringLiteral(",")), largura);
     QCOMPARE(arquivo, noArquivo);
     QCOMPARE(InsereVirgula(TiraZerosEsquerda(arquivo), casas), devolta);
+}
+
+void tst_Formatadores::tiraBrancosTiraSoOsBrancosDasPontas_data()
+{
+    const QString nbsp(QChar(160));
+    QTest::addColumn<QString>("valor");
+    QTest::addColumn<QString>("esperado");
+    QTest::newRow("brancos nas duas pontas") << "  P9  " << "P9";
+    QTest::newRow("branco de dentro fica") << " CX 10 " << "CX 10";
+    QTest::newRow("caractere 160 nas pontas fica") << nbsp + "P9" + nbsp << nbsp + "P9" + nbsp;
+    QTest::newRow("160 entre brancos fica, os brancos saem") << " " + nbsp + "P9" + nbsp + " " << nbsp + "P9" + nbsp;
+    QTest::newRow("tabulação fica") << "\tP9\t " << "\tP9\t";
+    QTest::newRow("quebra de linha fica") << "P9\r\n" << "P9\r\n";
+    QTest::newRow("só brancos dá vazio") << "    " << "";
+    QTest::newRow("nulo dá vazio") << QString() << "";
+}
+
+void tst_Formatadores::tiraBrancosTiraSoOsBrancosDasPontas()
+{
+    QFETCH(QString, valor);
+    QFETCH(QString, esperado);
+    const QString resultado = TiraBrancos(valor);
+    QCOMPARE(resultado, esperado);
+    QVERIFY(!resultado.isNull());
 }
 
 QTEST_GUILESS_MAIN(tst_Formatadores)

@@ -79,6 +79,8 @@ void tst_NumerosDocumento::numeroDCRE()
     QFETCH(QString, mensagem);
     QFETCH(int, icone);
     MensagensRoteiro msgs;
+    if (!mensagem.isEmpty())
+        msgs.responde(Msg::OK);
     QString mostrado = QStringLiteral("intocado");
     QCOMPARE(ValidaNumeroDCRE(texto, &mostrado), valido);
     if (valido)
@@ -111,6 +113,8 @@ void tst_NumerosDocumento::numeroDCR()
     QFETCH(QString, exibicao);
     QFETCH(QString, mensagem);
     MensagensRoteiro msgs;
+    if (!mensagem.isEmpty())
+        msgs.responde(Msg::OK);
     QString mostrado;
     QCOMPARE(ValidaNumeroDCR(texto, &mostrado), valido);
     if (valido)
@@ -141,6 +145,8 @@ void tst_NumerosDocumento::inscricaoEstadual()
     QFETCH(bool, valido);
     QFETCH(QString, mensagem);
     MensagensRoteiro msgs;
+    if (!mensagem.isEmpty())
+        msgs.responde(Msg::OK);
     QCOMPARE(ValidaInscricaoEstadual(texto, obrigatoria), valido);
     QCOMPARE(msgs.textos(), mensagem.isEmpty() ? QStringList() : QStringList{mensagem});
     for (const CaixaMsg& c : msgs.caixas) {
@@ -186,6 +192,8 @@ void tst_NumerosDocumento::campoBancario()
     QFETCH(bool, valido);
     QFETCH(QString, mensagem);
     MensagensRoteiro msgs;
+    if (!mensagem.isEmpty())
+        msgs.responde(Msg::OK);
     QCOMPARE(ValidaCampoBancario(campo, texto, testaNumerico), valido);
     QCOMPARE(msgs.textos(), mensagem.isEmpty() ? QStringList() : QStringList{mensagem});
     for (const CaixaMsg& c : msgs.caixas) {

@@ -1,12 +1,18 @@
-// The database as delivered: its reference rows, read back against the source files they were made from, and
-// the registration date that a new declaration gets by itself.
+// The database as delivered: its reference rows, read back against our own tables and, where they are at hand,
+// against the public files those tables were taken from; and the registration date a new declaration gets.
 #include "TestUtil.h"
 
+#include "core/lookups/BuscaNcm.h"
 #include "core/store/modBancoDados.h"
 
 #include <QCryptographicHash>
 #include <QDate>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QRegularExpression>
 #include <QtTest>
 
@@ -16,7 +22,38 @@ namespace {
 
 QString fonte(const QString& nome)
 {
-    return QStringLiteral(VRT_SOURCE_DIR "/src/core/store/dados/fontes/") + nome;
+    return QStringLiteral(VRT_REFDATA_DIR "/") + nome;
+}
+
+#define PULA_SEM_FONTES()                                                                                        \
+    do {                                                                                                       \
+        if (!QFileInfo::exists(QStringLiteral(VRT_REFDATA_DIR)))                                               \
+            QSKIP("os arquivos públicos das tabelas de referência não estão à mão");                           \
+    } while (false)
+
+QString tabelaEntregue(const QString& tabela)
+{
+    return QStringLiteral(VRT_SOURCE_DIR "/src/core/store/dados/") + tabela + QStringLiteral(".tsv");
+}
+
+// The comment lines and the data lines ("code|name|..." with the column line first) of a delivered table.
+struct Tabela {
+    QStringList comentarios;
+    QStringList linhas;
+};
+Tabela leTabela(const QString& tabela)
+{
+    Tabela t;
+    QFile f(tabelaEntregue(tabela));
+    if (!f.open(QIODevice::ReadOnly))
+        qFatal("não foi possível ler %s", qPrintable(f.fileName()));
+    for (const QString& l : QString::fromUtf8(f.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+        if (l.startsWith(QLatin1Char('#')))
+            t.comentarios << l;
+        else
+            t.linhas << QString(l).replace(QLatin1Char('\t'), QLatin1Char('|'));
+    }
+    return t;
 }
 
 QByteArray conteudo(const QString& caminho)
@@ -53,6 +90,15 @@ private slots:
     void moedasSaoAsDoArquivoDoBancoCentral();
     void unidadesDeMedidaSaoOsCodigosComerciaisDoArquivo();
     void numeradorComecaVazio();
+    void tabelasEntreguesNomeiamAFonteOficialESuaEdicao_data();
+    void tabelasEntreguesNomeiamAFonteOficialESuaEdicao();
+    void tabelasEntreguesSaoAsLinhasDoBanco_data();
+    void tabelasEntreguesSaoAsLinhasDoBanco();
+    void nenhumaCopiaDeArquivoDeTerceiroVaiComOPrograma();
+    void ncmSaoOsCodigosVigentesDoSiscomex();
+    void ncmTemAUnidadeEstatisticaDoComexStat();
+    void ncmCabeNasColunasDoItem();
+    void ncmDeUmItemComumJaEstaNoBancoEntregue();
 };
 
 void tst_bancoEntregue::novaDeclaracaoRecebeADataDeHojeSemNomearAColuna()
@@ -121,6 +167,7 @@ void tst_bancoEntregue::fontesSaoCopiasFieisDosArquivosPublicos_data()
 
 void tst_bancoEntregue::fontesSaoCopiasFieisDosArquivosPublicos()
 {
+    PULA_SEM_FONTES();
     QFETCH(QString, arquivo);
     QFETCH(QByteArray, sha256);
     QCOMPARE(QCryptographicHash::hash(conteudo(fonte(arquivo)), QCryptographicHash::Sha256).toHex(), sha256);
@@ -128,6 +175,7 @@ void tst_bancoEntregue::fontesSaoCopiasFieisDosArquivosPublicos()
 
 void tst_bancoEntregue::unidadesFederativasSaoAsVinteESeteDoArquivo()
 {
+    PULA_SEM_FONTES();
     BancoTeste banco;
     // codigo_uf,uf,nome,latitude,longitude,regiao
     QStringList esperado;
@@ -148,6 +196,7 @@ void tst_bancoEntregue::unidadesFederativasSaoAsVinteESeteDoArquivo()
 
 void tst_bancoEntregue::moedasSaoAsDoArquivoDoBancoCentral()
 {
+    PULA_SEM_FONTES();
     BancoTeste banco;
     // In each entry the block ":dados:" begins with the code and the name, one line each.
     const QString texto = QString::fromUtf8(conteudo(fonte(QStringLiteral("moedas_bcb_2011.yml"))));
@@ -169,6 +218,7 @@ void tst_bancoEntregue::moedasSaoAsDoArquivoDoBancoCentral()
 
 void tst_bancoEntregue::unidadesDeMedidaSaoOsCodigosComerciaisDoArquivo()
 {
+    PULA_SEM_FONTES();
     BancoTeste banco;
     // Every code field of the file, in order, less the lower-case codes (imperial and time units of the source,
     // no commercial unit of an invoice) and repetitions.
@@ -201,7 +251,143 @@ void tst_bancoEntregue::numeradorComecaVazio()
     QCOMPARE(BancoTeste::conta(QStringLiteral("ARQUIVO_NUMERADOR")), 0);
     QCOMPARE(BancoTeste::conta(QStringLiteral("VRT")), 0);
     QCOMPARE(BancoTeste::conta(QStringLiteral("PRODUTO")), 0);
-    QCOMPARE(BancoTeste::conta(QStringLiteral("NCM_ITEM")), 0);
+}
+
+
+void tst_bancoEntregue::tabelasEntreguesNomeiamAFonteOficialESuaEdicao_data()
+{
+    QTest::addColumn<QString>("tabela");
+    QTest::addColumn<QStringList>("fonteEEdicao");
+    QTest::newRow("moedas") << QStringLiteral("MOEDA")
+                            << QStringList{QStringLiteral("Banco Central do Brasil"), QStringLiteral("dezembro de 2011")};
+    QTest::newRow("estados") << QStringLiteral("UNIDADE_FEDERATIVA") << QStringList{QStringLiteral("IBGE")};
+    QTest::newRow("unidades") << QStringLiteral("UNIDADE_MEDIDA")
+                              << QStringList{QStringLiteral("SEFAZ/ENCAT"), QStringLiteral("05/07/2016")};
+    QTest::newRow("ncm") << QStringLiteral("NCM_ITEM")
+                         << QStringList{QStringLiteral("Siscomex"), QStringLiteral("vigente em 13/05/2025"),
+                                        QStringLiteral("Resolução Camex nº 641/2024"), QStringLiteral("Comex Stat")};
+}
+
+void tst_bancoEntregue::tabelasEntreguesNomeiamAFonteOficialESuaEdicao()
+{
+    QFETCH(QString, tabela);
+    QFETCH(QStringList, fonteEEdicao);
+    const QString cabecalho = leTabela(tabela).comentarios.join(QLatin1Char(' '));
+    for (const QString& parte : fonteEEdicao)
+        QVERIFY2(cabecalho.contains(parte), qPrintable(tabela + QStringLiteral(": ") + parte));
+}
+
+void tst_bancoEntregue::tabelasEntreguesSaoAsLinhasDoBanco_data()
+{
+    QTest::addColumn<QString>("tabela");
+    QTest::addColumn<QString>("consulta");
+    QTest::addColumn<int>("quantas");
+    QTest::newRow("moedas") << QStringLiteral("MOEDA") << QStringLiteral("SELECT CD_MOEDA || '|' || NM_MOEDA FROM MOEDA")
+                            << 161;
+    QTest::newRow("estados") << QStringLiteral("UNIDADE_FEDERATIVA")
+                             << QStringLiteral("SELECT CD_UF_DESTINO || '|' || NM_UF FROM UNIDADE_FEDERATIVA") << 27;
+    QTest::newRow("unidades") << QStringLiteral("UNIDADE_MEDIDA")
+                              << QStringLiteral("SELECT CD_UNID_MEDIDA || '|' || NM_MEDIDA FROM UNIDADE_MEDIDA") << 62;
+    QTest::newRow("ncm") << QStringLiteral("NCM_ITEM")
+                         << QStringLiteral("SELECT CD_NCM_PRODUTO || '|' || DESCR_NCM_PRODUTO || '|' || NM_UNID_MED_EST "
+                                           "FROM NCM_ITEM")
+                         << 10504;
+}
+
+void tst_bancoEntregue::tabelasEntreguesSaoAsLinhasDoBanco()
+{
+    QFETCH(QString, tabela);
+    QFETCH(QString, consulta);
+    QFETCH(int, quantas);
+    BancoTeste banco;
+    QStringList arquivo = leTabela(tabela).linhas;
+    QVERIFY(!arquivo.isEmpty());
+    arquivo.removeFirst();  // the column names
+    arquivo.sort();
+    QStringList doBanco;
+    QSqlQuery rs(ConexaoBanco());
+    AbreConsulta(rs, consulta);
+    while (rs.next())
+        doBanco << rs.value(0).toString();
+    doBanco.sort();
+    QCOMPARE(arquivo.size(), quantas);
+    QCOMPARE(doBanco, arquivo);
+}
+
+void tst_bancoEntregue::nenhumaCopiaDeArquivoDeTerceiroVaiComOPrograma()
+{
+    const QDir dados(QStringLiteral(VRT_SOURCE_DIR "/src/core/store/dados"));
+    QVERIFY(dados.exists());
+    QCOMPARE(dados.entryList(QDir::Dirs | QDir::NoDotAndDotDot), QStringList());
+    QCOMPARE(dados.entryList(QDir::Files, QDir::Name),
+             (QStringList{QStringLiteral("01_local_destino.sql"), QStringLiteral("MOEDA.tsv"),
+                          QStringLiteral("NCM_ITEM.tsv"), QStringLiteral("UNIDADE_FEDERATIVA.tsv"),
+                          QStringLiteral("UNIDADE_MEDIDA.tsv")}));
+}
+
+void tst_bancoEntregue::ncmSaoOsCodigosVigentesDoSiscomex()
+{
+    PULA_SEM_FONTES();
+    BancoTeste banco;
+    QFile f(fonte(QStringLiteral("ncm_siscomex_vigente_2025-05-13.json")));
+    QVERIFY(f.open(QIODevice::ReadOnly));
+    const QJsonObject raiz = QJsonDocument::fromJson(f.readAll()).object();
+    QCOMPARE(raiz.value(QStringLiteral("Data_Ultima_Atualizacao_NCM")).toString(), QStringLiteral("Vigente em 13/05/2025"));
+    QStringList esperado;
+    for (const QJsonValue& v : raiz.value(QStringLiteral("Nomenclaturas")).toArray()) {
+        const QString codigo = v.toObject().value(QStringLiteral("Codigo")).toString().remove(QLatin1Char('.'));
+        if (codigo.size() == 8)
+            esperado << codigo;
+    }
+    esperado.sort();
+    QCOMPARE(esperado.size(), 10504);
+    QStringList lidos;
+    QSqlQuery rs(ConexaoBanco());
+    AbreConsulta(rs, QStringLiteral("SELECT CD_NCM_PRODUTO FROM NCM_ITEM ORDER BY CD_NCM_PRODUTO"));
+    while (rs.next())
+        lidos << rs.value(0).toString();
+    QCOMPARE(lidos, esperado);
+}
+
+void tst_bancoEntregue::ncmTemAUnidadeEstatisticaDoComexStat()
+{
+    BancoTeste banco;
+    auto linha = [](const char* codigo) {
+        return BancoTeste::valor(QStringLiteral("SELECT DESCR_NCM_PRODUTO || '|' || NM_UNID_MED_EST FROM NCM_ITEM "
+                                                "WHERE CD_NCM_PRODUTO = ?"),
+                                 {QString::fromLatin1(codigo)})
+            .toString();
+    };
+    QCOMPARE(linha("22030000"), QStringLiteral("Cervejas de malte.|LITRO"));
+    QCOMPARE(linha("27011100"), QStringLiteral("Antracita|QUILOGRAMA LIQUIDO"));
+    // Hierarchy dashes and HTML tags of the official text are gone; a long text is cut at the column's 80.
+    QCOMPARE(linha("84713012"), QStringLiteral("De peso inferior a 3,5 kg, com tela de área superior a 140 cm2, mas "
+                                               "inferior a 5|NUMERO (UNIDADE)"));
+    // "TONELADA METRICA LIQUIDA" does not fit an item's 20 characters: its abbreviation stands for it.
+    QCOMPARE(linha("09011110"), QStringLiteral("Em grão|TML"));
+    // A code the statistical table does not have yet has no unit.
+    QCOMPARE(linha("03029110"), QStringLiteral("Ovas de tainhas (Mugil spp.)|"));
+    QCOMPARE(BancoTeste::conta(QStringLiteral("NCM_ITEM"), QStringLiteral("DESCR_NCM_PRODUTO LIKE '%<%' OR "
+                                                                          "DESCR_NCM_PRODUTO LIKE '-%'")),
+             0);
+}
+
+void tst_bancoEntregue::ncmCabeNasColunasDoItem()
+{
+    BancoTeste banco;
+    QVERIFY(BancoTeste::valor(QStringLiteral("SELECT MAX(length(DESCR_NCM_PRODUTO)) FROM NCM_ITEM")).toInt() <= 80);
+    // An item copies the statistical unit into a column of 20 characters.
+    QVERIFY(BancoTeste::valor(QStringLiteral("SELECT MAX(length(NM_UNID_MED_EST)) FROM NCM_ITEM")).toInt() <= 20);
+    QCOMPARE(BancoTeste::conta(QStringLiteral("NCM_ITEM"), QStringLiteral("DESCR_NCM_PRODUTO LIKE '%''%'")), 0);
+}
+
+void tst_bancoEntregue::ncmDeUmItemComumJaEstaNoBancoEntregue()
+{
+    BancoTeste banco;
+    QString descricao, unidade;
+    QVERIFY(Funcoes::BuscaNcm(QStringLiteral("22030000"), &descricao, &unidade));
+    QCOMPARE(descricao, QStringLiteral("Cervejas de malte."));
+    QCOMPARE(unidade, QStringLiteral("LITRO"));
 }
 
 QTEST_GUILESS_MAIN(tst_bancoEntregue)

@@ -52,7 +52,7 @@ private slots:
     void apagarUmaLinhaLevaSoASuaSubarvore();
     void apagarItemNfsLevaModalidadeDocumentosInsumosEJustificativasNumSoComando();
     void apagarNotaFiscalLevaTodosOsSeusItens();
-    void apagarItemMensalDeixaOsDocumentosDoInsumoNaDeclaracao();
+    void documentosDoInsumoMensalPendemDaDeclaracaoENaoDoItemQueOUsa();
     void apagarProdutoDeixaOsItensComoEstavam();
     void substituirTabelasDeReferenciaNaoTocaAsDeclaracoes();
 };
@@ -192,10 +192,12 @@ void tst_cascatas::apagarNotaFiscalLevaTodosOsSeusItens()
     QCOMPARE(BancoTeste::conta(QStringLiteral("VRT"), QStringLiteral("ID_VRT_MICRO = ?"), {QStringLiteral("00001/24")}), 1);
 }
 
-void tst_cascatas::apagarItemMensalDeixaOsDocumentosDoInsumoNaDeclaracao()
+void tst_cascatas::documentosDoInsumoMensalPendemDaDeclaracaoENaoDoItemQueOUsa()
 {
-    // The documents of an input are shared by every product that uses it: the editor removes them itself when the
-    // input's last use goes, so an item's delete must leave them.
+    // In the monthly tables an input's documents (DI, DSI, acquisition invoice) are keyed by declaration, input
+    // code and place of destination, not by the input row under an item, though the tree of tables reads as if
+    // they hung on it. They are shared by every product of the declaration that uses the same input there: the
+    // editor removes them itself when the input's last use goes, so deleting one item must leave them.
     BancoTeste banco;
     const ArvoreDeclaracao a = mensal(QStringLiteral("00001/24"));
     ExecutaSql(QStringLiteral("DELETE FROM ITEM_VRT_MEN WHERE ID_ITEM_VRT = ?"), {linha(a, QStringLiteral("ITEM_VRT_MEN")).chave});

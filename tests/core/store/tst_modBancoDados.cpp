@@ -53,6 +53,9 @@ private slots:
     void valorComAspasSimplesGravadoELidoIntacto_data();
     void valorComAspasSimplesGravadoELidoIntacto();
     void conexaoTemChavesEstrangeirasLigadas();
+    void arquivoSomenteLeituraPelasPermissoesOuPeloUsuario();
+    void compactaRecusaArquivoSomenteLeituraMesmoSemPaginasLivres();
+    void autoincrementoNaoReusaONumeroDaUltimaLinhaApagada();
 };
 
 void tst_modBancoDados::abreConsultaSemLinhasDaZeroEFechaOResultado()
@@ -281,6 +284,55 @@ void tst_modBancoDados::conexaoTemChavesEstrangeirasLigadas()
              }),
              QStringLiteral("787"));  // SQLITE_CONSTRAINT_FOREIGNKEY
     QCOMPARE(msgs.textos(), QStringList{QStringLiteral("Error #787: FOREIGN KEY constraint failed")});
+}
+
+void tst_modBancoDados::arquivoSomenteLeituraPelasPermissoesOuPeloUsuario()
+{
+    BancoTeste banco(false);
+    QFile arquivo(banco.arquivo());
+    QVERIFY(!ArquivoSomenteLeitura(banco.arquivo()));
+    // 0444: marked read-only even for a user, such as root, whom the system would let write it.
+    QVERIFY(arquivo.setPermissions(QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther));
+    QVERIFY(ArquivoSomenteLeitura(banco.arquivo()));
+    QVERIFY(arquivo.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
+    QVERIFY(!ArquivoSomenteLeitura(banco.arquivo()));
+}
+
+void tst_modBancoDados::compactaRecusaArquivoSomenteLeituraMesmoSemPaginasLivres()
+{
+    BancoTeste banco(false);
+    QFile arquivo(banco.arquivo());
+    {
+        MensagensRoteiro msgs;
+        QVERIFY(CompactaBanco(banco.arquivo()));
+        QCOMPARE(msgs.caixas.size(), 0);
+    }
+    QVERIFY(arquivo.setPermissions(QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther));
+    MensagensRoteiro msgs;
+    msgs.responde(Msg::OK);
+    QVERIFY(!CompactaBanco(banco.arquivo()));
+    QCOMPARE(msgs.textos(), QStringList{QStringLiteral("O banco de dados está protegido contra gravação:\n") + banco.arquivo()});
+    QCOMPARE(msgs.caixas[0].icone(), Msg::Critical);
+    QVERIFY(arquivo.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
+    // The probe that writes leaves nothing behind.
+    ConectaBanco(banco.arquivo());
+    QCOMPARE(BancoTeste::conta(QStringLiteral("sqlite_master"), QStringLiteral("name = 'SONDA_ESCRITA'")), 0);
+}
+
+void tst_modBancoDados::autoincrementoNaoReusaONumeroDaUltimaLinhaApagada()
+{
+    BancoTeste banco;
+    ExecutaSql(QStringLiteral("INSERT INTO VRT (ID_VRT_MICRO, NR_VRT, CD_TIPO_VRT) VALUES ('00001/26', ' ', '1')"));
+    ExecutaSql(QStringLiteral("INSERT INTO VRT_INDIVIDUAL (ID_VRT_MICRO) VALUES ('00001/26')"));
+    auto novaNota = [] {
+        ExecutaSql(QStringLiteral("INSERT INTO NOTA_FISCAL_SAIDA (ID_VRT_MICRO) VALUES ('00001/26')"));
+        return BancoTeste::valor(QStringLiteral("SELECT MAX(ID_NFS) FROM NOTA_FISCAL_SAIDA")).toInt();
+    };
+    const int primeira = novaNota();
+    const int segunda = novaNota();
+    QCOMPARE(segunda, primeira + 1);
+    ExecutaSql(QStringLiteral("DELETE FROM NOTA_FISCAL_SAIDA WHERE ID_NFS = ?"), {segunda});
+    QCOMPARE(novaNota(), segunda + 1);
 }
 
 QTEST_GUILESS_MAIN(tst_modBancoDados)

@@ -464,6 +464,50 @@ private slots:
         QVERIFY(!modBancoDados::TransacaoAberta());
     }
 
+    // The whole maintenance from the menu: a row included, the closing question answered Yes, the row kept.
+    void pelaJanelaPrincipalIncluiEGravaAoFechar_data() { pelaJanelaPrincipal_data(); }
+    void pelaJanelaPrincipalIncluiEGravaAoFechar()
+    {
+        QFETCH(bool, produto);
+        QFETCH(QString, comando);
+        BancoTeste banco;
+        const QString tabela = produto ? QStringLiteral("PRODUTO") : QStringLiteral("UNIDADE_MEDIDA");
+        semeia(tabela);
+        RegistraTelas();
+        frmVRTPLN janela;
+        HabilitaMenus(false);
+        janela.show();
+        MensagensRoteiro msgs;
+        bool viu = false, pendente = false;
+        QTimer::singleShot(50, this, [&] {
+            auto* tela = qobject_cast<AssistenteTabela*>(QApplication::activeModalWidget());
+            viu = tela != nullptr;
+            if (!tela)
+                return;
+            const QString campos = produto ? QStringLiteral("Produto") : QStringLiteral("Unidade");
+            const QString botoes = produto ? QStringLiteral("Produto") : QStringLiteral("UnidadeMedida");
+            QTest::keyClicks(peloNome<QLineEdit>(tela, QStringLiteral("txtCodigo") + campos), QStringLiteral("09"));
+            QTest::keyClicks(peloNome<QLineEdit>(tela, QStringLiteral("txtDescricao") + campos), QStringLiteral("NOVA"));
+            QTest::mouseClick(peloNome<QPushButton>(tela, QStringLiteral("cmdIncluir_") + botoes), Qt::LeftButton);
+            pendente = AlteracaoPendente && modBancoDados::TransacaoAberta();
+            msgs.responde(Msg::Yes);
+            QTest::mouseClick(peloNome<QPushButton>(tela, QStringLiteral("cmdCancela")), Qt::LeftButton);
+        });
+        janela.acao(comando)->trigger();
+        QVERIFY(viu);
+        QVERIFY(pendente);
+        QCOMPARE(msgs.textos(), QStringList{QStringLiteral("Deseja salvar as alterações?")});
+        QVERIFY(!ProdutoPeloMenu && !UnidadePeloMenu);
+        QVERIFY(!modBancoDados::TransacaoAberta());
+        QVERIFY(!AlteracaoPendente);
+        // Committed: a fresh connection sees the new row beside the two there before.
+        modBancoDados::ConectaBanco(banco.arquivo());
+        QCOMPARE(BancoTeste::conta(tabela), 3);
+        QCOMPARE(BancoTeste::conta(tabela, (produto ? QStringLiteral("CD_INT_PRODUTO") : QStringLiteral("CD_UNID_MEDIDA"))
+                                               + QStringLiteral(" = '09'")),
+                 1);
+    }
+
     void unidadeForaDoMenuSoLista()
     {
         BancoTeste banco;

@@ -13,6 +13,10 @@
 #include <QThread>
 #include <QtTest>
 
+#include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
+
 using namespace modVRTPLN;
 
 namespace {
@@ -36,6 +40,35 @@ void gravaDeclaracao(const QString& arquivo)
     modBancoDados::DesconectaBanco();
 }
 
+// Inserts some megabytes of products through a short connection of its own, commits, and deletes them again.
+void escreveEApagaProdutos(const QString& arquivo)
+{
+    modBancoDados::ConectaBanco(arquivo);
+    modBancoDados::IniciaTransacao();
+    const QString nome(80, QLatin1Char('p'));
+    for (int i = 0; i < 40000; ++i)
+        BancoTeste::executa("INSERT INTO PRODUTO (CD_INT_PRODUTO, NM_INT_PRODUTO) VALUES (?, ?)",
+                            {QStringLiteral("LASTRO%1").arg(i), nome});
+    modBancoDados::ConfirmaTransacao();
+    BancoTeste::executa("DELETE FROM PRODUTO WHERE CD_INT_PRODUTO LIKE 'LASTRO%'");
+    modBancoDados::DesconectaBanco();
+}
+
+// The lock file a program leaves when it is killed: a child process takes the lock and is killed holding it.
+bool deixaTravaDeProcessoMorto(const QString& arquivoTrava)
+{
+    const pid_t filho = fork();
+    if (filho == 0) {
+        QLockFile trava(arquivoTrava);
+        if (!trava.tryLock(0))
+            _exit(2);
+        kill(getpid(), SIGKILL);
+    }
+    int estado = 0;
+    waitpid(filho, &estado, 0);
+    return WIFSIGNALED(estado) && WTERMSIG(estado) == SIGKILL && QFileInfo::exists(arquivoTrava);
+}
+
 void encerra(Execucao& run)
 {
     if (run.janela)
@@ -53,6 +86,9 @@ private slots:
     void inicioMantemDeclaracaoConfirmadaEArquivoNaoCresce();
     void inicioCompactaBancoComMuitasPaginasLivres();
     void bancoAusenteEncerraAntesDoSplashSemJanela();
+    void bancoSomenteLeituraEncerraOInicioSemJanela_data();
+    void bancoSomenteLeituraEncerraOInicioSemJanela();
+    void travaDeixadaPorProgramaMortoEAssumidaNoInicio();
     void segundaCopiaNoMesmoBancoERecusada();
     void pastaDoProgramaSemEscritaUsaPastaDoUsuario();
     void esperaDuraMaisQueOsSegundosEAteUmAMais();
@@ -82,8 +118,12 @@ void tst_Main::inicioMantemDeclaracaoConfirmadaEArquivoNaoCresce()
 {
     BancoTeste banco(false);
     gravaDeclaracao(banco.arquivo());
-    qint64 tamanhoAnterior = -1;
+    qint64 tamanhoAnterior = QFileInfo(banco.arquivo()).size();
     for (int inicio = 0; inicio < 3; ++inicio) {
+        // Between two starts the program wrote a great deal and deleted it again: the pages it took stay in the
+        // file, free, until a start compacts it.
+        if (inicio > 0)
+            escreveEApagaProdutos(banco.arquivo());
         Execucao run = Main(banco.pasta(), 0);
         QVERIFY(run.iniciada());
         QCOMPARE(BancoTeste::conta("VRT", "ID_VRT_MICRO = ?", {"00001/26"}), 1);
@@ -92,8 +132,7 @@ void tst_Main::inicioMantemDeclaracaoConfirmadaEArquivoNaoCresce()
                  QStringLiteral("102026"));
         encerra(run);
         const qint64 tamanho = QFileInfo(banco.arquivo()).size();
-        if (tamanhoAnterior >= 0)
-            QVERIFY2(tamanho <= tamanhoAnterior, qPrintable(QStringLiteral("%1 > %2").arg(tamanho).arg(tamanhoAnterior)));
+        QVERIFY2(tamanho <= tamanhoAnterior, qPrintable(QStringLiteral("%1 > %2").arg(tamanho).arg(tamanhoAnterior)));
         tamanhoAnterior = tamanho;
     }
 }
@@ -132,6 +171,54 @@ void tst_Main::bancoAusenteEncerraAntesDoSplashSemJanela()
     QCOMPARE(msgs.caixas[0].icone(), Msg::Critical);
     // No empty database was made in its place.
     QVERIFY(!QFileInfo::exists(vazia.path() + "/PLN_VRT_v2.mdb"));
+}
+
+void tst_Main::bancoSomenteLeituraEncerraOInicioSemJanela_data()
+{
+    QTest::addColumn<bool>("comPaginasLivres");
+    QTest::newRow("sem páginas livres") << false;
+    QTest::newRow("com muitas páginas livres") << true;
+}
+
+void tst_Main::bancoSomenteLeituraEncerraOInicioSemJanela()
+{
+    QFETCH(bool, comPaginasLivres);
+    BancoTeste banco(false);
+    gravaDeclaracao(banco.arquivo());
+    if (comPaginasLivres)
+        escreveEApagaProdutos(banco.arquivo());
+    QFile arquivo(banco.arquivo());
+    QVERIFY(arquivo.setPermissions(QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther));
+    const qint64 tamanho = arquivo.size();
+    MensagensRoteiro msgs;
+    msgs.responde(Msg::OK);
+    Execucao run = Main(banco.pasta(), 1);
+    QVERIFY(!run.iniciada());
+    QVERIFY(!frmVRTPLN::instancia());
+    QVERIFY(!existeSplash());
+    QVERIFY(!modBancoDados::Conectado());
+    QCOMPARE(msgs.caixas.size(), 1);
+    QCOMPARE(msgs.caixas[0].texto, QStringLiteral("O banco de dados está protegido contra gravação:\n") + banco.arquivo());
+    QCOMPARE(msgs.caixas[0].icone(), Msg::Critical);
+    // Nothing was compacted nor written.
+    QCOMPARE(QFileInfo(banco.arquivo()).size(), tamanho);
+    QVERIFY(arquivo.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
+}
+
+void tst_Main::travaDeixadaPorProgramaMortoEAssumidaNoInicio()
+{
+    BancoTeste banco(false);
+    const QString trava = banco.arquivo() + ".lock";
+    QVERIFY(deixaTravaDeProcessoMorto(trava));
+    MensagensRoteiro msgs;
+    Execucao run = Main(banco.pasta(), 0);
+    QVERIFY(run.iniciada());
+    QCOMPARE(msgs.caixas.size(), 0);
+    // The lock is this run's now: another program is kept off.
+    QLockFile outra(trava);
+    QVERIFY(!outra.tryLock(0));
+    encerra(run);
+    QVERIFY(outra.tryLock(0));
 }
 
 void tst_Main::segundaCopiaNoMesmoBancoERecusada()

@@ -1,5 +1,6 @@
 #include "TestUtil.h"
 
+#include "gui/assistants/frmAssistenteVRT.h"
 #include "gui/shell/frmAbout.h"
 #include "gui/shell/frmVRTPLN.h"
 #include "core/session/modVRTPLN.h"
@@ -32,6 +33,8 @@ public:
     void FuncaoForm(int f) override { funcao = f; }
     void RepopulaGrids() override { ++repopulacoes; }
     bool ValidaDadosGerais() override { ++validacoes; return true; }
+    // As an editor does when it stores the general data of a new declaration: it takes a number and shows it.
+    void AtualizaDadosGerais() override { DefinePainelStatus(2, QStringLiteral("00002/26")); }
 
 protected:
     void closeEvent(QCloseEvent* e) override
@@ -76,6 +79,7 @@ private slots:
     void menusTemLegendasTeclasDeAcessoESeparadores_data();
     void menusTemLegendasTeclasDeAcessoESeparadores();
     void barraDeFerramentasTemDicasEIndices();
+    void menuFerramentasTemSeusSeparadoresNoLugar();
     void painel3MostraVersaoDesdeOPrimeiroMomento();
     void semTelaAbertaSalvarEFecharFicamDesligados();
     void matrizDeHabilitacao_data();
@@ -90,6 +94,8 @@ private slots:
     void comandosDoEscolhedorDeArquivoDefinemModoETitulo();
     void salvarSemAlteracaoNaoConfirmaNemReleAsGrades();
     void salvarConfirmaSemValidarOsDadosGeraisEMantemPainel2();
+    void novaMensalENovaIndividualLimpamAIdentificacaoEscolhida_data();
+    void novaMensalENovaIndividualLimpamAIdentificacaoEscolhida();
     void localizarEComoUsarAAjudaNaoFazemNada();
     void fecharComEditorQueRecusaMantemOProgramaAberto();
     void sairComTelaQueAceitaFechaAConexao();
@@ -182,6 +188,35 @@ void tst_frmVRTPLN::barraDeFerramentasTemDicasEIndices()
     auto* ajuda = janela.findChild<QMenu*>("mnuAjuda");
     QCOMPARE(ajuda->actions().at(3)->objectName(), QStringLiteral("lin31"));
     QVERIFY(ajuda->actions().at(3)->isSeparator());
+}
+
+void tst_frmVRTPLN::menuFerramentasTemSeusSeparadoresNoLugar()
+{
+    frmVRTPLN janela;
+    auto nomes = [](QMenu* menu) {
+        QStringList ordem;
+        for (QAction* a : menu->actions())
+            ordem << (a->menu() ? a->menu()->objectName() : a->objectName());
+        return ordem;
+    };
+    auto* ferramentas = janela.findChild<QMenu*>("mnuFerramentas");
+    QVERIFY(ferramentas);
+    // ln23 follows the unit maintenance item, the last of the Tabelas submenu.
+    QCOMPARE(nomes(ferramentas),
+             QStringList({"mnuFerramentasCalculadora", "lin21", "mnuFerramentasGravarBackup",
+                          "mnuFerramentasRestaurarBackup", "lin22", "mnuFerramentasImportarTabelas", "ln23",
+                          "mnuImportarBancoAnterior"}));
+    for (QAction* a : ferramentas->actions())
+        QCOMPARE(a->isSeparator(), a->objectName().startsWith(QLatin1String("lin")) ||
+                                       a->objectName().startsWith(QLatin1String("ln")));
+    auto* tabelasMenu = janela.findChild<QMenu*>("mnuFerramentasImportarTabelas");
+    QCOMPARE(nomes(tabelasMenu), QStringList({"mnuFerramentasImportar", "mnuFerramentasManutTabelaProduto"}));
+    QCOMPARE(nomes(janela.findChild<QMenu*>("mnuFerramentasManutTabelaProduto")),
+             QStringList({"mnuFerramentasTabelasProduto", "mnuFerramentasTabelasUnidMedida"}));
+    QCOMPARE(nomes(janela.findChild<QMenu*>("mnuFerramentasImportar")),
+             QStringList({"mnuFerramentasImportarTabelasMoeda", "mnuFerramentasImportarTabelasNCM",
+                          "mnuFerramentasImportarTabelasProduto", "mnuFerramentasImportarTabelasUF",
+                          "mnuFerramentasImportarTabelasUnidadeMedida"}));
 }
 
 void tst_frmVRTPLN::painel3MostraVersaoDesdeOPrimeiroMomento()
@@ -431,11 +466,43 @@ void tst_frmVRTPLN::salvarConfirmaSemValidarOsDadosGeraisEMantemPainel2()
     QCOMPARE(editorMensal->repopulacoes, 1);
     // The old name comparison never matched: the general data are not validated from here.
     QCOMPARE(editorMensal->validacoes, 0);
+    // Had the general data been stored from here, the editor would have shown the number it took.
     QCOMPARE(janela.painel(2)->text(), QStringLiteral("00001/26"));
     // The save point holds: a later rollback keeps the row, and a new transaction is open.
     QVERIFY(modBancoDados::TransacaoAberta());
     modBancoDados::DesfazTransacao();
     QCOMPARE(BancoTeste::conta("UNIDADE_FEDERATIVA", "CD_UF_DESTINO = 'XX'"), 1);
+    FechaTela();
+}
+
+void tst_frmVRTPLN::novaMensalENovaIndividualLimpamAIdentificacaoEscolhida_data()
+{
+    QTest::addColumn<QString>("comando");
+    QTest::addColumn<int>("tela");
+    QTest::addColumn<int>("funcao");
+    QTest::newRow("mensal") << QStringLiteral("mnuDeclaracaoNovaMensal") << int(Mensal) << 0;
+    QTest::newRow("individual") << QStringLiteral("mnuDeclaracaoNovaIndividual") << int(Individual) << 1;
+    QTest::newRow("botão mensal") << QStringLiteral("tlbDeclaracao(2)") << int(Mensal) << 0;
+    QTest::newRow("botão individual") << QStringLiteral("tlbDeclaracao(3)") << int(Individual) << 1;
+}
+
+void tst_frmVRTPLN::novaMensalENovaIndividualLimpamAIdentificacaoEscolhida()
+{
+    QFETCH(QString, comando);
+    QFETCH(int, tela);
+    QFETCH(int, funcao);
+    BancoTeste banco(false);
+    frmVRTPLN janela;
+    QVERIFY(janela.carrega());
+    janela.show();
+    frmAssistenteVRT::IdVrtAbrir = QStringLiteral("00007/24");
+    DefinePainelStatus(2, QStringLiteral("00007/24"));
+    janela.acao(comando)->trigger();
+    QCOMPARE(TelaAtual, tela);
+    QCOMPARE(ultimaCriada[tela]->funcao, funcao);
+    QCOMPARE(frmAssistenteVRT::IdVrtAbrir, QString());
+    QCOMPARE(IdVrtAbrir, QString());
+    QCOMPARE(janela.painel(2)->text(), QString());
     FechaTela();
 }
 

@@ -247,8 +247,9 @@ inline QString r41(const QString& codigo, const QString& nome, const QString& un
 // The NCM codes the composed item records use, registered as the reader requires.
 inline void cadastraNcmsDosRegistros()
 {
-    BancoTeste::executa(QStringLiteral("INSERT INTO NCM_ITEM (CD_NCM_PRODUTO, DESCR_NCM_PRODUTO, NM_UNID_MED_EST) VALUES "
-                                       "('84713012', 'Máquinas portáteis', 'UN'), "
+    // The delivered table has them too: the test's own descriptions and units stand in for theirs.
+    BancoTeste::executa(QStringLiteral("INSERT OR REPLACE INTO NCM_ITEM (CD_NCM_PRODUTO, DESCR_NCM_PRODUTO, "
+                                       "NM_UNID_MED_EST) VALUES ('84713012', 'Máquinas portáteis', 'UN'), "
                                        "('39269090', 'Outras obras de plástico', 'KG')"));
 }
 

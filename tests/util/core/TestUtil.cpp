@@ -6,14 +6,23 @@
 #include <QSqlQuery>
 #include <QtTest>
 
+namespace {
+// A box that no script answers fails the test that is running; the code goes on with the default button.
+int falhaPorCaixaInesperada(const QString& texto, int estilo)
+{
+    const QByteArray mensagem = "caixa de mensagem inesperada: " + texto.toUtf8();
+    QTest::qFail(mensagem.constData(), __FILE__, __LINE__);
+    return RespostaPadrao(estilo);
+}
+}  // namespace
+
 MensagensRoteiro::MensagensRoteiro()
 {
     m_anterior = InstalaManipuladorMsg([this](const QString& texto, int estilo, const QString& titulo) {
         caixas.append({texto, estilo, titulo});
         if (m_respostas.isEmpty()) {
             ++inesperadas;
-            qWarning("caixa de mensagem inesperada: %s", qPrintable(texto));
-            return RespostaPadrao(estilo);
+            return falhaPorCaixaInesperada(texto, estilo);
         }
         return m_respostas.takeFirst();
     });
@@ -48,6 +57,8 @@ void MensagensRoteiro::limpa()
 BancoTeste::BancoTeste(bool conectar)
 {
     m_fimAnterior = modBancoDados::DefineEncerramento(modBancoDados::EncerramentoPorExcecao);
+    m_msgAnterior = InstalaManipuladorMsg(
+        [](const QString& texto, int estilo, const QString&) { return falhaPorCaixaInesperada(texto, estilo); });
     modVRTPLN::CaminhoAplicacao = m_dir.path();
     modVRTPLN::CaminhoDados = m_dir.path();
     const QString destino = arquivo();
@@ -62,6 +73,7 @@ BancoTeste::~BancoTeste()
 {
     modBancoDados::DesconectaBanco();
     modBancoDados::DefineEncerramento(m_fimAnterior);
+    InstalaManipuladorMsg(m_msgAnterior);
     modVRTPLN::TelaAtual = 0;
     modVRTPLN::AlteracaoPendente = false;
 }

@@ -19,7 +19,8 @@ struct CaixaMsg {
 };
 
 // Installs itself as the message handler for its lifetime. Each box takes the next scripted answer; a box with
-// no answer left is recorded as unexpected and gets its default button. Tests check `caixas` and `inesperadas`.
+// no answer left is recorded as unexpected, fails the running test and gets its default button. Tests check
+// `caixas`. A BancoTeste fails the test on any box shown while no MensagensRoteiro is installed.
 class MensagensRoteiro {
 public:
     MensagensRoteiro();
@@ -52,6 +53,7 @@ public:
 private:
     QTemporaryDir m_dir;
     modBancoDados::Encerramento m_fimAnterior;
+    ManipuladorMsg m_msgAnterior;
 };
 
 // Runs a block that must end the run through BDTrataErro; gives the error number, or an empty text if it did not.

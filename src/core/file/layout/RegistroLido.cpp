@@ -61,7 +61,7 @@ QString RegistroLido::texto(const QString& nome) const
 
 QString RegistroLido::aparado(const QString& nome) const
 {
-    return naoNulo(texto(nome).trimmed());
+    return naoNulo(Funcoes::TiraBrancos(texto(nome)));
 }
 
 QString RegistroLido::semZeros(const QString& nome) const

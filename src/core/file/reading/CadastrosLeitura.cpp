@@ -1,6 +1,7 @@
 #include "core/file/reading/CadastrosLeitura.h"
 
 #include "core/file/reading/ComandosPreparados.h"
+#include "core/rules/Formatadores.h"
 #include "core/session/MsgBox.h"
 
 CadastrosLeitura::CadastrosLeitura(ComandosPreparados& comandos) : m_comandos(comandos) {}
@@ -14,8 +15,8 @@ void CadastrosLeitura::zeraContadores()
 
 bool CadastrosLeitura::RegistraProduto(const QString& codigo, const QString& nome)
 {
-    const QString cod = codigo.trimmed();
-    const QString nm = nome.trimmed();
+    const QString cod = Funcoes::TiraBrancos(codigo);
+    const QString nm = Funcoes::TiraBrancos(nome);
     const auto conhecido = m_produtos.constFind(cod);
     if (conhecido != m_produtos.constEnd()) {
         if (conhecido.value() != nm) {

@@ -161,6 +161,57 @@ private slots:
         QCOMPARE(um(t("SELECT NM_INT_PRODUTO FROM PRODUTO WHERE CD_INT_PRODUTO = 'P3'")), t("Parafuso"));
     }
 
+    void registro21ComOsDoisNumerosOuNenhum_data()
+    {
+        QTest::addColumn<QString>("dcre");
+        QTest::addColumn<QString>("dcr");
+        QTest::addColumn<QString>("tipo");
+        QTest::addColumn<int>("dcres");
+        QTest::addColumn<QString>("dcrs");
+        // Positions 7-16 give type 1, then positions 32-40 give type 2 over it.
+        QTest::newRow("os dois preenchidos: o DCR vence") << t("0000012345") << t("000054321") << t("2") << 0
+                                                          << t("54321|50,00|2,00000|0,1000000");
+        // No type: the item and its PI com PPB row, and no document row.
+        QTest::newRow("os dois zerados: nenhum documento") << t("0000000000") << t("000000000") << t("") << 0 << t("");
+    }
+    void registro21ComOsDoisNumerosOuNenhum()
+    {
+        QFETCH(QString, dcre);
+        QFETCH(QString, dcr);
+        QFETCH(QString, tipo);
+        QFETCH(int, dcres);
+        QFETCH(QString, dcrs);
+        MensagensRoteiro msgs;
+        msgs.responde(Msg::OK);
+        QVERIFY(le({i21(t("001"), dcre, dcr, t("PC"))}));
+        QCOMPARE(BancoTeste::conta(t("ITEM_NFS"), t("IND_MOD_INTERNACAO = '2'")), 1);
+        QCOMPARE(um(t("SELECT IFNULL(CD_TIPO_COEF_REDUCAO, '') || '|' || VL_PIS FROM ITEM_NFS_PI_COM_PPB")),
+                 tipo + t("|0,0110000"));
+        QCOMPARE(BancoTeste::conta(t("DCRE")), dcres);
+        QCOMPARE(um(t("SELECT group_concat(NR_DCR || '|' || PC_COEF_REDUCAO_II || '|' || QT_PRODUTO || '|' || "
+                      "VL_II_UNIT_DOLAR, ';') FROM DCR")),
+                 dcrs);
+    }
+
+    void caractere160NasPontasFicaNoCodigoNaUnidadeENoNome()
+    {
+        const QString nbsp(QChar(160));
+        MensagensRoteiro msgs;
+        msgs.responde(Msg::OK);
+        const QString linha = Linha(707).poe(1, i11(t("001"), nbsp + t("P9") + nbsp, nbsp + t("Teclado") + nbsp))
+                                  .poe(591, (nbsp + t("CX") + nbsp).leftJustified(20));
+        QVERIFY(le({linha}));
+        QCOMPARE(um(t("SELECT CD_INT_PROD || '|' || NM_UNID_MED_PROD FROM ITEM_NFS")),
+                 nbsp + t("P9") + nbsp + t("|") + nbsp + t("CX") + nbsp);
+        QCOMPARE(um(t("SELECT NM_INT_PROD FROM ITEM_NFS")), (nbsp + t("Teclado") + nbsp).leftJustified(45));
+        // The product is registered with its code and name cut of blanks only.
+        QCOMPARE(um(t("SELECT CD_INT_PRODUTO || '|' || NM_INT_PRODUTO FROM PRODUTO")),
+                 nbsp + t("P9") + nbsp + t("|") + nbsp + t("Teclado") + nbsp);
+        // The unit is looked up and registered without any character 160.
+        QCOMPARE(BancoTeste::conta(t("UNIDADE_MEDIDA"), t("NM_MEDIDA = 'CX'")), 1);
+        QCOMPARE(BancoTeste::conta(t("UNIDADE_MEDIDA"), t("instr(NM_MEDIDA, ?) > 0"), {nbsp}), 0);
+    }
+
     void justificativaSoComBrancosNosTrechosTestadosNaoEhGravada()
     {
         MensagensRoteiro msgs;

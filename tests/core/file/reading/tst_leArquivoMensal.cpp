@@ -47,10 +47,55 @@ private slots:
         m_banco = nullptr;
     }
 
+    void registro21ComOsDoisNumerosOuNenhum_data()
+    {
+        QTest::addColumn<QString>("dcre");
+        QTest::addColumn<QString>("dcr");
+        QTest::addColumn<QString>("esperado");
+        QTest::newRow("os dois preenchidos: tipo 2 e o número de 32-40") << t("0000012345") << t("000054321")
+                                                                          << t("2|54321");
+        QTest::newRow("os dois zerados: sem tipo nem número") << t("0000000000") << t("000000000") << t("|");
+    }
+    void registro21ComOsDoisNumerosOuNenhum()
+    {
+        QFETCH(QString, dcre);
+        QFETCH(QString, dcr);
+        QFETCH(QString, esperado);
+        MensagensRoteiro msgs;
+        msgs.responde(Msg::OK);
+        QVERIFY(le({r21(t("1"), t("P2"), t("Monitor"), t("PC"), dcre, dcr)}));
+        QCOMPARE(BancoTeste::conta(t("ITEM_VRT_MEN"), t("IND_MOD_INTERNACAO = '2'")), 1);
+        QCOMPARE(BancoTeste::conta(t("DESTINO_ITEM_VRT_MEN")), 1);
+        QCOMPARE(um(t("SELECT IFNULL(CD_TIPO_COEF_REDUCAO, '') || '|' || IFNULL(NR_DCRE_DCR, '') "
+                      "FROM ITEM_VRT_MEN_PI_COM_PPB")),
+                 esperado);
+    }
+
+    void caractere160NasPontasFicaNoCodigoNaUnidadeENoNome()
+    {
+        const QString nbsp(QChar(160));
+        MensagensRoteiro msgs;
+        msgs.responde(Msg::OK);
+        QVERIFY(le({r11(t("1"), nbsp + t("P9") + nbsp, nbsp + t("Teclado") + nbsp, t("00000000200000"),
+                        t("00000000120000"), nbsp + t("CX") + nbsp)}));
+        QCOMPARE(um(t("SELECT CD_INT_PRODUTO || '|' || NM_UNID_MED_PROD FROM ITEM_VRT_MEN")),
+                 nbsp + t("P9") + nbsp + t("|") + nbsp + t("CX") + nbsp);
+        QCOMPARE(um(t("SELECT NM_INT_PRODUTO FROM ITEM_VRT_MEN")), pad(nbsp + t("Teclado") + nbsp, 45));
+        // The product is registered with its code and name cut of blanks only.
+        QCOMPARE(um(t("SELECT CD_INT_PRODUTO || '|' || NM_INT_PRODUTO FROM PRODUTO")),
+                 nbsp + t("P9") + nbsp + t("|") + nbsp + t("Teclado") + nbsp);
+        // The unit is looked up and registered without any character 160.
+        QCOMPARE(BancoTeste::conta(t("UNIDADE_MEDIDA"), t("NM_MEDIDA = 'CX'")), 1);
+        QCOMPARE(BancoTeste::conta(t("UNIDADE_MEDIDA"), t("instr(NM_MEDIDA, ?) > 0"), {nbsp}), 0);
+    }
+
     void leCadaRegistroNasSuasLinhas()
     {
         MensagensRoteiro msgs;
         msgs.responde(Msg::OK);
+        // "CX10" is a delivered unit: without it, the reader must register the input's unit itself.
+        BancoTeste::executa(t("DELETE FROM UNIDADE_MEDIDA WHERE NM_MEDIDA = 'CX10'"));
+        QCOMPARE(BancoTeste::conta(t("UNIDADE_MEDIDA"), t("NM_MEDIDA IN ('CX10', 'PC')")), 0);
         const int unidadesAntes = BancoTeste::conta(t("UNIDADE_MEDIDA"));
         QVERIFY(le({r11(t("1"), t("P1"), t("Notebook"), t("00000000200000"), t("00000000120000"), t("UN"),
                         t("Alíquota reduzida por ex"), t("01000")),
@@ -65,12 +110,11 @@ private slots:
                     r36(t("I1")), r41(t("P4"), t("Cabo"), t("M"))}));
         QCOMPARE(msgs.inesperadas, 0);
         const QString id = identificacao(1);
-        const int unidadesNovas = BancoTeste::conta(t("UNIDADE_MEDIDA")) - unidadesAntes;
-        QString relatorio = t("Relatório da importação:\r\r- 18 registros importados.\r- 5 produtos cadastrados.\r"
-                              "- 3 produtos alterados.\r");
-        if (unidadesNovas > 0)
-            relatorio += t("- ") + QString::number(unidadesNovas) + t(" unidades de medida cadastradas.\r");
-        relatorio += t("\rO arquivo foi importado com sucesso! \rNúmero de identificação: ") + id;
+        // "PC" of record 21 and "CX10" of record 32 are new; "UN" and "M" were there.
+        QCOMPARE(BancoTeste::conta(t("UNIDADE_MEDIDA")) - unidadesAntes, 2);
+        const QString relatorio = t("Relatório da importação:\r\r- 18 registros importados.\r- 5 produtos cadastrados.\r"
+                                    "- 3 produtos alterados.\r- 2 unidades de medida cadastradas.\r"
+                                    "\rO arquivo foi importado com sucesso! \rNúmero de identificação: ") + id;
         QCOMPARE(msgs.textos(), QStringList{relatorio});
 
         // Record 11: the second record of P1 folds into the first item; its justification is not read.
@@ -321,9 +365,13 @@ private slots:
     void registro12AntesDeQualquer11EncerraSemDeixarNada()
     {
         MensagensRoteiro msgs;
+        msgs.responde(Msg::OK);
         grava(m_banco->pasta() + t("/arquivo"), bytes(cabecalhoMensal() + QStringList{r12()}));
         // No destination to hang on: the engine refuses the row and the run ends, rolling back what was read.
         QVERIFY(!numeroDoFim([&] { LeArquivoVrtEm(m_banco->pasta(), t("arquivo")); }).isEmpty());
+        QCOMPARE(msgs.caixas.size(), 1);
+        QVERIFY(msgs.caixas[0].texto.startsWith(t("Error #")));
+        QCOMPARE(msgs.caixas[0].titulo, t("BDTrataErro"));
         QCOMPARE(BancoTeste::conta(t("VRT")), 0);
         QCOMPARE(BancoTeste::conta(t("ARQUIVO_NUMERADOR")), 0);
     }

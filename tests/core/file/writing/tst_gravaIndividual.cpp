@@ -22,6 +22,9 @@ private slots:
     void registro13DepoisDeMensalComNDeixaZeros();
     void ultimoRegistro12DeixaOArquivoSemCrLfNoFim();
     void declaracaoSemNotaEscreveSoOsRegistrosDeCabecalho();
+    void tipoDeDeclaracaoDesconhecidoSaiComoIndividualComODigitoGravado();
+    void registro14SoLevaValoresEMoedasComSuspensao_data();
+    void registro14SoLevaValoresEMoedasComSuspensao();
 
 private:
     QList<QByteArray> linhasDe(const QString& caminho, QByteArray* bytes = nullptr);
@@ -223,6 +226,67 @@ void tst_gravaIndividual::declaracaoSemNotaEscreveSoOsRegistrosDeCabecalho()
     QCOMPARE(l.at(1), L(QStringLiteral("01") + "1" + "1" + "000000" + "12345678000195" + Z("", 14) + B("", 5)
                         + "000000" + Z("", 8) + Z("", 8) + "0000" + "0" + B("", 14) + "  " + " " + "000" + "0000"
                         + Z("", 19)));
+}
+
+void tst_gravaIndividual::tipoDeDeclaracaoDesconhecidoSaiComoIndividualComODigitoGravado()
+{
+    BancoTeste banco;
+    insereDeclaracao(QStringLiteral("00001/09"), QStringLiteral("SP"), QStringLiteral("N"), QStringLiteral("6101"));
+    MensagensRoteiro msgs;
+    msgs.responde(Msg::OK).responde(Msg::OK);
+    QTemporaryDir individual, outroTipo;
+    const ResultadoGravacao a = GravaVrt({QStringLiteral("00001/09")}, individual.path(), ModoGravacao::Transmissao);
+    BancoTeste::executa(QStringLiteral("UPDATE VRT SET CD_TIPO_VRT = '7'"));
+    const ResultadoGravacao b = GravaVrt({QStringLiteral("00001/09")}, outroTipo.path(), ModoGravacao::Transmissao);
+    QCOMPARE(msgs.textos(), (QStringList{QStringLiteral("Arquivo gerado."), QStringLiteral("Arquivo gerado.")}));
+    const QList<QByteArray> esperado = linhasDe(a.arquivos.value(0));
+    const QList<QByteArray> lido = linhasDe(b.arquivos.value(0));
+    QCOMPARE(lido.size(), esperado.size());
+    QVERIFY(esperado.size() > 5);
+    // Every record is the individual writer's; only the stored digit stands in the header and the head.
+    QCOMPARE(lido.at(0).at(15), '7');
+    QCOMPARE(lido.at(1).at(2), '7');
+    QByteArray cabecalho = lido.at(0), cabeca = lido.at(1);
+    cabecalho[15] = '1';
+    cabeca[2] = '1';
+    QCOMPARE(cabecalho, esperado.at(0));
+    QCOMPARE(cabeca, esperado.at(1));
+    QCOMPARE(lido.mid(2), esperado.mid(2));
+}
+
+void tst_gravaIndividual::registro14SoLevaValoresEMoedasComSuspensao_data()
+{
+    QTest::addColumn<QString>("suspensao");
+    QTest::addColumn<QByteArray>("valores");
+    QTest::newRow("com suspensão") << "S"
+                                   << QByteArray("00000000000015000000" "220" "00000000000002500000" "978"
+                                                 "00000000000001000000" "220");
+    QTest::newRow("sem suspensão") << "N" << QByteArray(69, '0');
+}
+
+void tst_gravaIndividual::registro14SoLevaValoresEMoedasComSuspensao()
+{
+    QFETCH(QString, suspensao);
+    QFETCH(QByteArray, valores);
+    BancoTeste banco;
+    insereDeclaracao(QStringLiteral("00001/09"), QStringLiteral("SP"), QStringLiteral("N"), QStringLiteral("6101"));
+    const qint64 item = BancoTeste::valor(QStringLiteral("SELECT ID_ITEM FROM ITEM_NFS")).toLongLong();
+    insere(QStringLiteral("ITEM_DSI_PE_IND"),
+           {{"ID_ITEM", item}, {"NR_DSI", "0912345678"}, {"NR_DSI_ANTIGA", ""}, {"NR_BEM", "7"},
+            {"QT_PROD_UNID_NFS", "2,00000"}, {"VL_PROD_UNID_PROD", "1,5000000"}, {"CD_MOEDA_NEG", "220"},
+            {"VL_FRETE_UNID_INT", "0,2500000"}, {"CD_MOEDA_FRETE", "978"}, {"VL_SEGURO_UNID_INT", "0,1000000"},
+            {"CD_MOEDA_SEGURO", "220"}, {"IND_SUSP_PIS_COFINS", suspensao}});
+    MensagensRoteiro msgs;
+    msgs.responde(Msg::OK);
+    const ResultadoGravacao r = GravaVrt({QStringLiteral("00001/09")}, m_pasta.path(), ModoGravacao::Transmissao);
+    QByteArray registro14;
+    for (const QByteArray& l : linhasDe(r.arquivos.value(0)))
+        if (l.startsWith("14"))
+            registro14 = l;
+    QCOMPARE(registro14.size(), 114);
+    QCOMPARE(registro14.left(44), L(QStringLiteral("14") + "0912345678" + Z("", 15) + "007" + "00000000200000"));
+    QCOMPARE(registro14.mid(44, 69), valores);
+    QCOMPARE(registro14.mid(113), L(suspensao));
 }
 
 QTEST_GUILESS_MAIN(tst_gravaIndividual)
