@@ -5,6 +5,7 @@
 #include "shell/MsgBox.h"
 #include "shell/frmVRTPLN.h"
 #include "shell/modVRTPLN.h"
+#include "store/Cadastros.h"
 #include "store/modBancoDados.h"
 #include "widgets/ConsultGrid.h"
 #include "widgets/OkCancelRow.h"
@@ -129,9 +130,7 @@ void frmAssistenteVRT::elimina(const QString& identificacao)
         return;
     // Its own transaction on a fresh connection; the cascades of the schema take every row of the declaration.
     modBancoDados::ConectaBanco(modVRTPLN::ArquivoBanco());
-    modBancoDados::IniciaTransacao();
-    modBancoDados::ExecutaSql(QStringLiteral("DELETE FROM VRT WHERE ID_VRT_MICRO = ?"), {identificacao});
-    modBancoDados::ConfirmaTransacao();
+    Cadastros::ExcluiVrt(identificacao);
     // Ascending by identifier, whatever the order was; the stored directions are left as they were.
     carregaLista(ListaDeclaracoes::Identificacao, QString());
 }

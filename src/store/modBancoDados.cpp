@@ -184,9 +184,12 @@ bool TransacaoAberta()
     return transacaoAberta;
 }
 
-Transacao::Transacao()
+Transacao::Transacao(Modo modo)
 {
-    IniciaTransacao();
+    if (modo == JuntaSeAberta && TransacaoAberta())
+        m_aberta = false;
+    else
+        IniciaTransacao();
 }
 
 Transacao::~Transacao()
@@ -197,7 +200,8 @@ Transacao::~Transacao()
 
 void Transacao::confirma()
 {
-    ConfirmaTransacao();
+    if (m_aberta)
+        ConfirmaTransacao();
     m_aberta = false;
 }
 
