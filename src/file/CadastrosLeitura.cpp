@@ -1,9 +1,13 @@
 #include "file/CadastrosLeitura.h"
 
-#include "file/ComandosPreparados.h"
+#include "file/EstadoLeitura.h"
 #include "shell/MsgBox.h"
+#include "store/ComandosPreparados.h"
 
-CadastrosLeitura::CadastrosLeitura(ComandosPreparados& comandos) : m_comandos(comandos) {}
+CadastrosLeitura::CadastrosLeitura(ComandosPreparados& comandos, EstadoLeitura& estado)
+    : m_comandos(comandos), m_estado(estado)
+{
+}
 
 void CadastrosLeitura::zeraContadores()
 {
@@ -60,9 +64,8 @@ bool CadastrosLeitura::RegistraUnidade(QString& nome)
         m_unidades.insert(nome);
         return true;
     }
-    MsgBox(QStringLiteral("Limite máximo de unidades de medidas cadastradas foi atindigo."), Msg::Critical,
-           QStringLiteral("Erro de Importação"));
-    return false;
+    return m_estado.falha(QString(), QStringLiteral("Limite máximo de unidades de medidas cadastradas foi atindigo."),
+                          Msg::Critical, QStringLiteral("Erro de Importação"));
 }
 
 bool CadastrosLeitura::ExisteProduto(const QString& codigo)

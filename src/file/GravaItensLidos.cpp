@@ -2,6 +2,7 @@
 
 #include "file/EstadoLeitura.h"
 #include "file/RegistroLido.h"
+#include "store/ComandosPreparados.h"
 
 GravaItensLidos::GravaItensLidos(TipoDeclaracao declaracao, EstadoLeitura& estado, ComandosPreparados& comandos,
                                  CadastrosLeitura& cadastros)
@@ -30,4 +31,9 @@ bool GravaItensLidos::gravaRegistro(const QString& tipo, QString& linha)
     case 41: return registro41(r);
     default: return false;
     }
+}
+
+bool GravaItensLidos::novaChave(QVariant& chave, const QString& tipo, const QString& mensagem)
+{
+    return m_estado.novaChave(chave, m_comandos.ultimaChave(), tipo, mensagem);
 }
