@@ -7,6 +7,7 @@
 #include "core/file/checking/VerificaArquivoVrt.h"
 #include "core/session/MsgBox.h"
 #include "core/session/modVRTPLN.h"
+#include "core/store/Cadastros.h"
 #include "core/store/modBancoDados.h"
 
 #include <QCoreApplication>
@@ -61,7 +62,7 @@ int Gravar(const OpcoesCli& opcoes)
     // that no success text is printed for files that were never made.
     bool todasExistem = true;
     for (const QString& id : opcoes.argumentos) {
-        if (!modBancoDados::ValorUnico(s("SELECT 1 FROM VRT WHERE ID_VRT_MICRO = ?"), {id}).isValid()) {
+        if (!Cadastros::ExisteVrt(id)) {
             erro(s("identificação não encontrada: ") + id);
             todasExistem = false;
         }

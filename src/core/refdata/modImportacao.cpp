@@ -3,10 +3,10 @@
 #include "core/rules/Formatadores.h"
 #include "core/session/MsgBox.h"
 #include "core/session/modVRTPLN.h"
+#include "core/store/ComandosPreparados.h"
 #include "core/store/modBancoDados.h"
 
 #include <QFile>
-#include <QSqlQuery>
 #include <QStringDecoder>
 #include <QStringView>
 
@@ -60,87 +60,51 @@ QList<QStringView> divideLinhas(const QString& texto)
     return linhas;
 }
 
-// The statements of one import, prepared once and run per line. A failed one rolls the import back first and
-// then ends the run, as the import routines always did.
-class Comandos {
-public:
-    QSqlQuery prepara(const QString& sql)
-    {
-        QSqlQuery q(modBancoDados::ConexaoBanco());
-        q.setForwardOnly(true);
-        if (!q.prepare(sql))
-            falha(q);
-        return q;
-    }
-    static void executa(QSqlQuery& q, const QVariantList& valores)
-    {
-        for (int i = 0; i < valores.size(); ++i)
-            q.bindValue(i, valores.at(i));
-        if (!q.exec())
-            falha(q);
-    }
-    [[noreturn]] static void falha(const QSqlQuery& q)
-    {
-        const QSqlError erro = q.lastError();
-        modBancoDados::DesfazTransacao();
-        modBancoDados::BDTrataErro(erro);
-    }
-};
+const QString InsereMoeda = QStringLiteral("INSERT INTO MOEDA (CD_MOEDA, NM_MOEDA) VALUES (?, ?)");
+const QString ProcuraNcm = QStringLiteral("SELECT CD_NCM_PRODUTO FROM NCM_ITEM WHERE CD_NCM_PRODUTO = ?");
+const QString InsereNcm =
+    QStringLiteral("INSERT INTO NCM_ITEM (CD_NCM_PRODUTO, DESCR_NCM_PRODUTO, NM_UNID_MED_EST) VALUES (?, ?, ?)");
+const QString AlteraNcm =
+    QStringLiteral("UPDATE NCM_ITEM SET DESCR_NCM_PRODUTO = ?, NM_UNID_MED_EST = ? WHERE CD_NCM_PRODUTO = ?");
+const QString ProcuraProduto = QStringLiteral("SELECT CD_INT_PRODUTO FROM PRODUTO WHERE CD_INT_PRODUTO = ?");
+const QString InsereProduto = QStringLiteral("INSERT INTO PRODUTO (CD_INT_PRODUTO, NM_INT_PRODUTO) VALUES (?, ?)");
+const QString AlteraProduto = QStringLiteral("UPDATE PRODUTO SET NM_INT_PRODUTO = ? WHERE CD_INT_PRODUTO = ?");
+const QString InsereUf = QStringLiteral("INSERT INTO UNIDADE_FEDERATIVA (CD_UF_DESTINO, NM_UF) VALUES (?, ?)");
+const QString InsereUnidade = QStringLiteral("INSERT INTO UNIDADE_MEDIDA (CD_UNID_MEDIDA, NM_MEDIDA) VALUES (?, ?)");
 
 class Importacao {
 public:
-    Importacao()
-        : m_insereMoeda(m_c.prepara(QStringLiteral("INSERT INTO MOEDA (CD_MOEDA, NM_MOEDA) VALUES (?, ?)"))),
-          m_procuraNcm(m_c.prepara(
-              QStringLiteral("SELECT CD_NCM_PRODUTO FROM NCM_ITEM WHERE CD_NCM_PRODUTO = ?"))),
-          m_insereNcm(m_c.prepara(QStringLiteral(
-              "INSERT INTO NCM_ITEM (CD_NCM_PRODUTO, DESCR_NCM_PRODUTO, NM_UNID_MED_EST) VALUES (?, ?, ?)"))),
-          m_alteraNcm(m_c.prepara(QStringLiteral(
-              "UPDATE NCM_ITEM SET DESCR_NCM_PRODUTO = ?, NM_UNID_MED_EST = ? WHERE CD_NCM_PRODUTO = ?"))),
-          m_procuraProduto(m_c.prepara(
-              QStringLiteral("SELECT CD_INT_PRODUTO FROM PRODUTO WHERE CD_INT_PRODUTO = ?"))),
-          m_insereProduto(m_c.prepara(
-              QStringLiteral("INSERT INTO PRODUTO (CD_INT_PRODUTO, NM_INT_PRODUTO) VALUES (?, ?)"))),
-          m_alteraProduto(m_c.prepara(
-              QStringLiteral("UPDATE PRODUTO SET NM_INT_PRODUTO = ? WHERE CD_INT_PRODUTO = ?"))),
-          m_insereUf(m_c.prepara(
-              QStringLiteral("INSERT INTO UNIDADE_FEDERATIVA (CD_UF_DESTINO, NM_UF) VALUES (?, ?)"))),
-          m_insereUnidade(m_c.prepara(
-              QStringLiteral("INSERT INTO UNIDADE_MEDIDA (CD_UNID_MEDIDA, NM_MEDIDA) VALUES (?, ?)")))
-    {
-    }
-
     // Imports one line after the header; false for a line of an unknown type.
     bool importa(QStringView linha)
     {
         const QStringView tipo = linha.left(2);
         if (tipo == u"01") {
             limpaUmaVez(QStringLiteral("DELETE FROM MOEDA"));
-            Comandos::executa(m_insereMoeda, {campo(linha, 3, 3), nome(linha, 6, 35)});
+            m_c.executa(InsereMoeda, {campo(linha, 3, 3), nome(linha, 6, 35)});
         } else if (tipo == u"02") {
             const QString codigo = campo(linha, 3, 8);
             const QString descricao = nome(linha, 11, 80);
             const QString unidade = nome(linha, 91, 50);
-            if (existe(m_procuraNcm, codigo))
-                Comandos::executa(m_alteraNcm, {descricao, unidade, codigo});
+            if (m_c.existe(ProcuraNcm, {codigo}))
+                m_c.executa(AlteraNcm, {descricao, unidade, codigo});
             else
-                Comandos::executa(m_insereNcm, {codigo, descricao, unidade});
+                m_c.executa(InsereNcm, {codigo, descricao, unidade});
         } else if (tipo == u"03") {
             // The code is compared with its trailing blanks, exactly as it stands in the file; the key's index
             // finds it, where the old routine walked the whole table for every line.
             const QString codigo = campo(linha, 3, 15);
             const QString descricao = nome(linha, 18, 80);
-            if (existe(m_procuraProduto, codigo))
-                Comandos::executa(m_alteraProduto, {descricao, codigo});
+            if (m_c.existe(ProcuraProduto, {codigo}))
+                m_c.executa(AlteraProduto, {descricao, codigo});
             else
-                Comandos::executa(m_insereProduto, {codigo, descricao});
+                m_c.executa(InsereProduto, {codigo, descricao});
         } else if (tipo == u"04") {
             limpaUmaVez(QStringLiteral("DELETE FROM UNIDADE_FEDERATIVA"));
-            Comandos::executa(m_insereUf, {campo(linha, 3, 2), nome(linha, 5, 25)});
+            m_c.executa(InsereUf, {campo(linha, 3, 2), nome(linha, 5, 25)});
         } else if (tipo == u"05") {
             // Units are always inserted: the update branch of the old routine could never be chosen.
             limpaUmaVez(QStringLiteral("DELETE FROM UNIDADE_MEDIDA"));
-            Comandos::executa(m_insereUnidade, {campo(linha, 3, 2), nome(linha, 5, 50)});
+            m_c.executa(InsereUnidade, {campo(linha, 3, 2), nome(linha, 5, 50)});
         } else {
             return false;
         }
@@ -157,22 +121,12 @@ private:
     {
         if (m_tabelaLimpa)
             return;
-        QSqlQuery q = m_c.prepara(sql);
-        Comandos::executa(q, {});
+        m_c.executa(sql, {});
         m_tabelaLimpa = true;
     }
 
-    static bool existe(QSqlQuery& q, const QString& codigo)
-    {
-        Comandos::executa(q, {codigo});
-        const bool achou = q.next();
-        q.finish();
-        return achou;
-    }
-
-    Comandos m_c;
-    QSqlQuery m_insereMoeda, m_procuraNcm, m_insereNcm, m_alteraNcm, m_procuraProduto, m_insereProduto,
-        m_alteraProduto, m_insereUf, m_insereUnidade;
+    // A failed statement rolls the import back first and then ends the run, as the import routines always did.
+    ComandosPreparados m_c{ComandosPreparados::AntesDeFalhar::DesfazTransacao};
     bool m_tabelaLimpa = false;
     QString m_ultimoTipo;
 };

@@ -200,9 +200,12 @@ bool TransacaoAberta()
     return transacaoAberta;
 }
 
-Transacao::Transacao()
+Transacao::Transacao(Modo modo)
 {
-    IniciaTransacao();
+    if (modo == JuntaSeAberta && TransacaoAberta())
+        m_aberta = false;
+    else
+        IniciaTransacao();
 }
 
 Transacao::~Transacao()
@@ -213,7 +216,8 @@ Transacao::~Transacao()
 
 void Transacao::confirma()
 {
-    ConfirmaTransacao();
+    if (m_aberta)
+        ConfirmaTransacao();
     m_aberta = false;
 }
 

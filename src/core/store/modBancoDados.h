@@ -47,17 +47,19 @@ void ConfirmaTransacao();
 void DesfazTransacao();
 bool TransacaoAberta();
 
-// Commits when told to, rolls back when it goes out of scope otherwise.
+// Commits when told to, rolls back when it goes out of scope otherwise. `JuntaSeAberta`: when a transaction is
+// already open (an editor's, an assistant's, a reading's), the guard joins it and leaves its end to its owner.
 class Transacao {
 public:
-    Transacao();
+    enum Modo { Propria, JuntaSeAberta };
+    explicit Transacao(Modo modo = Propria);
     ~Transacao();
     void confirma();
     Transacao(const Transacao&) = delete;
     Transacao& operator=(const Transacao&) = delete;
 
 private:
-    bool m_aberta = true;
+    bool m_aberta = true;  // this guard began the transaction and has not ended it
 };
 
 // Shows "Error #" number ": " description (critical, title "BDTrataErro") and ends the run at once.

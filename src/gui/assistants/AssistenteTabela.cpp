@@ -18,7 +18,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QShowEvent>
-#include <QSqlQuery>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -260,32 +259,17 @@ void AssistenteTabela::aoAtivar()
 
 void AssistenteTabela::carregaGrade()
 {
-    QString sql = QStringLiteral("SELECT %1, %2").arg(m_cfg.colunaCodigo, m_cfg.colunaNome);
-    if (!m_cfg.colunaComplemento.isEmpty())
-        sql += QStringLiteral(", ") + m_cfg.colunaComplemento;
-    sql += QStringLiteral(" FROM ") + m_cfg.tabela;
-    QVariantList valores;
     const QString filtro = m_txtCodigo->text().trimmed();
     // The filter is a prefix of the code; the menu face lists the whole table.
-    if (m_cfg.filtro && !m_menu && !filtro.isEmpty()) {
-        sql += QStringLiteral(" WHERE substr(%1, 1, ?) = ?").arg(m_cfg.colunaCodigo);
-        if (m_cfg.codigoSemCaixa)
-            sql += QStringLiteral(" COLLATE NOCASE");
-        valores << filtro.size() << filtro;
-    }
-    sql += QStringLiteral(" ORDER BY %1.%2").arg(m_cfg.tabela, m_cfg.colunaCodigo);
-
-    QSqlQuery rs(modBancoDados::ConexaoBanco());
-    rs.setForwardOnly(true);
-    modBancoDados::AbreConsulta(rs, sql, valores);
+    const bool filtra = m_cfg.filtro && !m_menu && !filtro.isEmpty();
     QList<QStringList> linhas;
-    while (rs.next()) {
-        const QString codigo = rs.value(0).toString();
+    for (const QStringList& lida : Cadastros::Lista(m_cfg.tabela, filtra ? filtro : QString())) {
+        const QString& codigo = lida.at(0);
         QStringList linha{codigo,
                           m_cfg.formatoCodigo.isEmpty() ? codigo : Funcoes::FormataMascara(codigo, m_cfg.formatoCodigo),
-                          rs.value(1).toString()};
-        if (!m_cfg.colunaComplemento.isEmpty())
-            linha << rs.value(2).toString();
+                          lida.at(1)};
+        if (lida.size() > 2)
+            linha << lida.at(2);
         linhas << linha;
     }
     m_grade->setRows(linhas);
@@ -332,7 +316,7 @@ void AssistenteTabela::cmdOk_Click()
     if (linha < 0 || !m_cfg.destinos || !m_cfg.chamador)
         return;
     m_cfg.destinos->entrega(*m_cfg.chamador, m_grade->cellText(linha, ColunaChave),
-                            m_cfg.colunaComplemento.isEmpty() ? m_grade->cellText(linha, ColunaNome)
+                            m_cfg.tabela.colunaComplemento.isEmpty() ? m_grade->cellText(linha, ColunaNome)
                                                               : m_grade->cellText(linha, ColunaComplemento));
     accept();
 }
@@ -354,10 +338,7 @@ bool AssistenteTabela::validaCampos()
 
 bool AssistenteTabela::codigoJaIncluido(const QString& codigo) const
 {
-    const QString sql = QStringLiteral("SELECT 1 FROM %1 WHERE %2 = ?%3 LIMIT 1")
-                            .arg(m_cfg.tabela, m_cfg.colunaCodigo,
-                                 m_cfg.codigoSemCaixa ? QStringLiteral(" COLLATE NOCASE") : QString());
-    return modBancoDados::ValorUnico(sql, {codigo}).isValid();
+    return Cadastros::Existe(m_cfg.tabela, codigo);
 }
 
 void AssistenteTabela::cmdIncluir_Click()
@@ -371,9 +352,7 @@ void AssistenteTabela::cmdIncluir_Click()
         return;
     }
     AlteracaoPendente = true;
-    modBancoDados::ExecutaSql(
-        QStringLiteral("INSERT INTO %1 (%2, %3) VALUES (?, ?)").arg(m_cfg.tabela, m_cfg.colunaCodigo, m_cfg.colunaNome),
-        {codigo, m_txtDescricaoCadastro->text()});
+    Cadastros::Inclui(m_cfg.tabela, codigo, m_txtDescricaoCadastro->text());
     carregaGrade();
     limpaCampos();
 }
@@ -390,10 +369,7 @@ void AssistenteTabela::cmdAlterar_Click()
         return;
     }
     AlteracaoPendente = true;
-    // Items already stored keep what they copied of the product.
-    modBancoDados::ExecutaSql(QStringLiteral("UPDATE %1 SET %2 = ?, %3 = ? WHERE %2 = ?")
-                                  .arg(m_cfg.tabela, m_cfg.colunaCodigo, m_cfg.colunaNome),
-                              {codigo, m_txtDescricaoCadastro->text(), m_chaveAntiga});
+    Cadastros::Altera(m_cfg.tabela, m_chaveAntiga, codigo, m_txtDescricaoCadastro->text());
     carregaGrade();
     limpaCampos();
 }
@@ -403,9 +379,7 @@ void AssistenteTabela::cmdExcluir_Click()
     if (MsgBox(QStringLiteral("Deseja realmente excluir?"), Msg::YesNo | Msg::Information, TituloPadrao) != Msg::Yes)
         return;
     AlteracaoPendente = true;
-    // No test of use: the items keep their copies.
-    modBancoDados::ExecutaSql(QStringLiteral("DELETE FROM %1 WHERE %2 = ?").arg(m_cfg.tabela, m_cfg.colunaCodigo),
-                              {m_txtCodigoCadastro->text()});
+    Cadastros::Exclui(m_cfg.tabela, m_txtCodigoCadastro->text());
     carregaGrade();
     limpaCampos();
 }

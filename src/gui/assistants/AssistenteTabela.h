@@ -7,6 +7,7 @@
 #include <QList>
 #include <QString>
 
+#include "core/store/Cadastros.h"
 #include "gui/widgets/ConsultGrid.h"
 
 class DestinosEscolha;
@@ -22,14 +23,10 @@ public:
         QString nome;        // objectName of the screen
         QString titulo;      // caption
         QString nomeGrade;   // objectName of the grid
-        QString tabela;
-        QString colunaCodigo;
-        QString colunaNome;
-        QString colunaComplemento;  // a third column (the NCM's statistical unit), or empty
+        TabelaCadastro tabela;      // the table listed and changed, through the routines of Cadastros
         // Titles of the shown code, name and complement.
         QStringList titulos = {QStringLiteral("Código"), QStringLiteral("Descrição")};
         QString formatoCodigo;      // display mask of the code ("@@@@.@@.@@"), or empty
-        bool codigoSemCaixa = false;  // searches compare codes without regard to case, as the old engine did
         bool filtro = true;
         int tamanhoFiltro = 15;
         bool filtroSoDigitos = false;

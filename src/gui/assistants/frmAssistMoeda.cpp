@@ -11,9 +11,7 @@ AssistenteTabela::Configuracao configuracao()
     c.nome = QStringLiteral("frmAssistMoeda");
     c.titulo = QStringLiteral("Selecione a Moeda");
     c.nomeGrade = QStringLiteral("grdAssistMoeda");
-    c.tabela = QStringLiteral("MOEDA");
-    c.colunaCodigo = QStringLiteral("CD_MOEDA");
-    c.colunaNome = QStringLiteral("NM_MOEDA");
+    c.tabela = Cadastros::Moeda();
     c.tamanhoFiltro = 3;
     c.filtroSoDigitos = true;
     c.textoNaoEncontrado = QStringLiteral("Código de moeda não encontrado!");

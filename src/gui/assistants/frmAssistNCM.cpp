@@ -11,10 +11,7 @@ AssistenteTabela::Configuracao configuracao()
     c.nome = QStringLiteral("frmAssistNCM");
     c.titulo = QStringLiteral("Selecione a NCM");
     c.nomeGrade = QStringLiteral("grdAssistNCM");
-    c.tabela = QStringLiteral("NCM_ITEM");
-    c.colunaCodigo = QStringLiteral("CD_NCM_PRODUTO");
-    c.colunaNome = QStringLiteral("DESCR_NCM_PRODUTO");
-    c.colunaComplemento = QStringLiteral("NM_UNID_MED_EST");
+    c.tabela = Cadastros::Ncm();
     c.titulos = {QStringLiteral("Código"), QStringLiteral("Descrição"), QStringLiteral("Unidade Estatística")};
     c.formatoCodigo = QStringLiteral("@@@@.@@.@@");
     c.tamanhoFiltro = 8;

@@ -11,10 +11,7 @@ AssistenteTabela::Configuracao configuracao()
     c.nome = QStringLiteral("frmAssistenteCCI");
     c.titulo = QStringLiteral("Selecione o Código do Produto");
     c.nomeGrade = QStringLiteral("grdAssistenteCCI");
-    c.tabela = QStringLiteral("PRODUTO");
-    c.colunaCodigo = QStringLiteral("CD_INT_PRODUTO");
-    c.colunaNome = QStringLiteral("NM_INT_PRODUTO");
-    c.codigoSemCaixa = true;
+    c.tabela = Cadastros::Produto();
     c.tamanhoFiltro = 15;
     c.textoNaoEncontrado = QStringLiteral("Código de produto não encontrado!");
     c.destinos = &DestinosEscolha::produto();

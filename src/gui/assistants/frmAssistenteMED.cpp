@@ -10,9 +10,7 @@ AssistenteTabela::Configuracao configuracao()
     c.nome = QStringLiteral("frmAssistenteMED");
     c.titulo = QStringLiteral("Selecione a Unidade de Medida Comercial");
     c.nomeGrade = QStringLiteral("grdAssistenteMED");
-    c.tabela = QStringLiteral("UNIDADE_MEDIDA");
-    c.colunaCodigo = QStringLiteral("CD_UNID_MEDIDA");
-    c.colunaNome = QStringLiteral("NM_MEDIDA");
+    c.tabela = Cadastros::UnidadeMedida();
     c.filtro = false;
     c.peloMenu = &modVRTPLN::UnidadePeloMenu;
     c.sufixoBotoes = QStringLiteral("UnidadeMedida");

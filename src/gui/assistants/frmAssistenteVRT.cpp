@@ -5,6 +5,7 @@
 #include "core/session/MsgBox.h"
 #include "gui/screens/Telas.h"
 #include "core/session/modVRTPLN.h"
+#include "core/store/Cadastros.h"
 #include "core/store/modBancoDados.h"
 #include "gui/widgets/ConsultGrid.h"
 #include "gui/widgets/OkCancelRow.h"
@@ -134,9 +135,7 @@ void frmAssistenteVRT::elimina(const QString& identificacao)
         return;
     // Its own transaction on a fresh connection; the cascades of the schema take every row of the declaration.
     modBancoDados::ConectaBanco(modVRTPLN::ArquivoBanco());
-    modBancoDados::IniciaTransacao();
-    modBancoDados::ExecutaSql(QStringLiteral("DELETE FROM VRT WHERE ID_VRT_MICRO = ?"), {identificacao});
-    modBancoDados::ConfirmaTransacao();
+    Cadastros::ExcluiVrt(identificacao);
     // Ascending by identifier, whatever the order was; the stored directions are left as they were.
     carregaLista(ListaDeclaracoes::Identificacao, QString());
 }

@@ -41,10 +41,10 @@ QByteArray escreve(const QString& id, const QString& pasta)
 }
 bool importa(const QByteArray& arquivo, const QString& pasta)
 {
-    grava(pasta + t("/entrada"), arquivo);
+    Q_UNUSED(pasta);
     MensagensRoteiro msgs;
     msgs.responde(Msg::OK);
-    return LeArquivoVrtEm(pasta, t("entrada"), ModoLeitura::Restaurar) && msgs.inesperadas == 0;
+    return leDaMemoria(arquivo, ModoLeitura::Restaurar) && msgs.inesperadas == 0;
 }
 }  // namespace
 

@@ -2,6 +2,7 @@
 // Declaration file lines composed by hand for the reader tests: a line of blanks of the record's length with
 // each field put at its column, so that a test reads like the layout tables it checks. Never the writer's.
 #include "TestUtil.h"
+#include <QBuffer>
 #include <QByteArray>
 #include <QDate>
 #include <QFile>
@@ -12,6 +13,7 @@
 #include <QSqlQuery>
 #include <QSqlRecord>
 
+#include "core/file/reading/LeArquivoVrt.h"
 #include "core/store/modBancoDados.h"
 
 class Linha {
@@ -150,6 +152,14 @@ inline void grava(const QString& caminho, const QByteArray& conteudo)
 }
 
 // The identification the next declaration gets in an installation whose counter stands at `ultimo`.
+// Reads `conteudo` as a declaration file held in memory, with the outcome shown through the message seam.
+inline bool leDaMemoria(const QByteArray& conteudo, ModoLeitura modo = ModoLeitura::Importar)
+{
+    QBuffer arquivo;
+    arquivo.setData(conteudo);
+    return LeArquivoVrtEm(arquivo, modo);
+}
+
 inline QString identificacao(int numero)
 {
     return QString::number(numero).rightJustified(5, QLatin1Char('0')) + QLatin1Char('/') +

@@ -2,8 +2,10 @@
 
 #include "core/file/layout/LinhasArquivo.h"
 #include "core/file/layout/RegistroLido.h"
+#include "core/file/layout/RegistrosCabeca.h"
 
 #include <QDate>
+#include <QFile>
 #include <QSet>
 
 namespace {
@@ -65,10 +67,18 @@ void VerificaArquivoVrt::problema(int linha, const QString& descricao, int inici
 
 bool VerificaArquivoVrt::verifica(const QString& caminho)
 {
+    QFile arquivo(caminho);
+    return verifica(arquivo);
+}
+
+bool VerificaArquivoVrt::verifica(QIODevice& dispositivo)
+{
     m_problemas.clear();
+    m_linhas = 0;
     LinhasArquivo arquivo;
-    if (!arquivo.abre(caminho)) {
-        problema(0, s("Não foi possível abrir o arquivo ") + caminho + s("."));
+    if (!arquivo.abre(dispositivo)) {
+        const auto* f = qobject_cast<QFile*>(&dispositivo);
+        problema(0, s("Não foi possível abrir o arquivo ") + (f ? f->fileName() : QString()) + s("."));
         return false;
     }
     // The head records are kept; the item records are checked one at a time, so that a large file is never
@@ -92,11 +102,7 @@ void VerificaArquivoVrt::verificaCabecalho(const QStringList& linhas)
 {
     // Record 00: every test of the reader, each with the reader's own text.
     const QString r00 = linhas.at(0);
-    if (r00.size() != 61)
-        problema(1, s("Erro no registro 00 - Tamanho inválido!") + s(" (") + QString::number(r00.size()) +
-                        s(" caracteres, esperados 61)"));
-    if (r00.left(2) != s("00"))
-        problema(1, s("Erro no 1º registro - Tipo de registro não é 00!"), 1, 2);
+    const bool forma00 = confereCabeca(1, r00);
     const QString cab = r00.left(10);
     if (cab != s("00VRT/PLN1") && cab != s("00VRT/PLN2") && cab != s("00VRT/PLN3"))
         problema(1, s("Erro no Header"), 1, 10);
@@ -106,35 +112,38 @@ void VerificaArquivoVrt::verificaCabecalho(const QStringList& linhas)
         problema(1, s("Erro no registro 00 - Tipo VRT inválido!"), 16, 16, s("CD_TIPO_VRT"));
     if (RegistroLido::soZeros(r00.mid(47, 14)))
         problema(1, s("Erro no registro 00 - CNPJ inválido!"), 48, 61, s("NR_CNPJ_INTERNADOR"));
-    if (r00.size() == 61 && r00.left(2) == s("00"))
-        verificaCampos(1, r00, LayoutRegistro::de(TipoDeclaracao::Mensal, s("00")));
+    if (forma00)
+        verificaCampos(1, r00, RegistrosCabeca::layout(1));
 
-    struct Cabeca {
-        const char* tipo;
-        int tamanho;
-    };
-    const Cabeca cabecas[] = {{"01", 113}, {"02", 563}, {"03", 524}};
-    for (int i = 0; i < 3; ++i) {
-        const QString tipo = s(cabecas[i].tipo);
-        const int numero = i + 2;
+    for (int numero = 2; numero <= 4; ++numero) {
         if (linhas.size() < numero) {
-            problema(0, s("Erro no arquivo - Não foi localizado o registro ") + tipo + s("!"));
+            problema(0, RegistrosCabeca::textoAusente(numero));
             return;
         }
         const QString& l = linhas.at(numero - 1);
-        if (l.size() != cabecas[i].tamanho)
-            problema(numero, s("Erro no registro ") + tipo + s(" - Tamanho inválido!") + s(" (") +
-                                 QString::number(l.size()) + s(" caracteres, esperados ") +
-                                 QString::number(cabecas[i].tamanho) + s(")"));
-        if (l.left(2) != tipo)
-            problema(numero, s("Erro no ") + ordinal(numero) + s(" registro - Tipo de registro não é ") + tipo + s("!"),
-                     1, 2);
-        if (tipo == s("02") && l.mid(2, 1) != s("N") && l.mid(2, 1) != s("S"))
+        const bool forma = confereCabeca(numero, l);
+        if (numero == 3 && l.mid(2, 1) != s("N") && l.mid(2, 1) != s("S"))
             problema(numero, s("Erro no registro 02 - Indicador de mandado judicial inválido!"), 3, 3,
                      s("IND_MANDADO_JUDIC"));
-        if (l.size() == cabecas[i].tamanho && l.left(2) == tipo)
-            verificaCampos(numero, l, LayoutRegistro::de(TipoDeclaracao::Mensal, tipo));
+        if (forma)
+            verificaCampos(numero, l, RegistrosCabeca::layout(numero));
     }
+}
+
+bool VerificaArquivoVrt::confereCabeca(int numero, const QString& linha)
+{
+    bool certa = true;
+    const int tamanho = RegistrosCabeca::layout(numero).tamanho;
+    if (linha.size() != tamanho) {
+        problema(numero, RegistrosCabeca::textoTamanho(numero) + s(" (") + QString::number(linha.size()) +
+                             s(" caracteres, esperados ") + QString::number(tamanho) + s(")"));
+        certa = false;
+    }
+    if (linha.left(2) != RegistrosCabeca::tipo(numero)) {
+        problema(numero, RegistrosCabeca::textoTipo(numero), 1, 2);
+        certa = false;
+    }
+    return certa;
 }
 
 void VerificaArquivoVrt::verificaItens(LinhasArquivo& arquivo, TipoDeclaracao declaracao)

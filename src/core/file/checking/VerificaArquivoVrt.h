@@ -10,6 +10,7 @@
 #include <QStringList>
 
 class LinhasArquivo;
+class QIODevice;
 
 struct ProblemaArquivo {
     int linha = 0;         // counted from 1; 0 for the file as a whole
@@ -25,11 +26,15 @@ class VerificaArquivoVrt {
 public:
     // False when the file cannot be read (a problem says so).
     bool verifica(const QString& caminho);
+    // The same on a device (opened for reading here when it is not open yet).
+    bool verifica(QIODevice& arquivo);
     const QList<ProblemaArquivo>& problemas() const { return m_problemas; }
     int linhas() const { return m_linhas; }
 
 private:
     void verificaCabecalho(const QStringList& linhas);
+    // The length and type of the head record at line `numero`, each problem with the reader's text.
+    bool confereCabeca(int numero, const QString& linha);
     void verificaItens(LinhasArquivo& arquivo, TipoDeclaracao declaracao);
     void verificaCampos(int numero, const QString& linha, const LayoutRegistro& layout);
     void problema(int linha, const QString& descricao, int inicio = 0, int fim = 0, const QString& campo = QString());

@@ -34,6 +34,15 @@ enum class TipoDeclaracao { Mensal, Individual };
 //      00 and 01); digits in every file this system writes
 enum class TipoCampo { N, X, R, D2, D5, D7, DT, K, A };
 
+// How the reader turns a field into the text it stores (RegistroLido::lido):
+//  ComoEsta          the characters as they stand (X, N, A)
+//  Aparado           trimmed of blanks on both sides (R, and the codes and names the layouts mark)
+//  ZerosVazio        as it stands, but a field of zeros stores an empty text
+//  SemZerosEsquerda  leading zeros removed
+//  Decimal           leading zeros removed, the comma put at the field's scale (D2, D5, D7)
+//  Data              yyyymmdd back to ddmmyyyy (DT)
+enum class LeituraCampo { ComoEsta, Aparado, ZerosVazio, SemZerosEsquerda, Decimal, Data };
+
 struct CampoLayout {
     int posicao = 0;  // first column, counted from 1
     int tamanho = 0;
@@ -42,6 +51,7 @@ struct CampoLayout {
     QString coluna;     // the column it maps to; empty for fillers and constants
     QString tabela;     // the column's table when not the record's own
     QString constante;  // kind K only
+    LeituraCampo leitura = LeituraCampo::ComoEsta;  // the reader's rule; MontaLayout gives each kind its own
 
     int fim() const { return posicao + tamanho - 1; }
     // The field's text in a line (shorter at the end of a short line).
@@ -50,6 +60,8 @@ struct CampoLayout {
     int casas() const;
     // Kinds whose characters are digits in a well-formed file: N, D2, D5, D7, DT and A.
     bool numerico() const;
+    // The table of the column: its own `tabela`, else the record's.
+    const QString& tabelaDe(const QString& tabelaDoRegistro) const { return tabela.isEmpty() ? tabelaDoRegistro : tabela; }
 };
 
 class LayoutRegistro {

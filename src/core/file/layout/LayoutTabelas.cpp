@@ -1,6 +1,7 @@
 #include "core/file/layout/LayoutTabelas.h"
 
 #include "core/file/layout/MontaLayout.h"
+#include "core/file/layout/SlotsValores.h"
 
 namespace LayoutTabelas {
 
@@ -51,11 +52,11 @@ QVector<LayoutRegistro> cabecalho()
 
     MontaLayout r02(s("02"), 563, s("VALORES_DIVER_MANDADO"));
     r02.tipoRegistro().campo(3, 1, T::X, s("IND_MANDADO_JUDIC"), s("IND_MANDADO_JUDIC"), s("VRT"));
-    for (int k = 1; k <= 35; ++k) {
-        const int p = 4 + 16 * (k - 1);
+    for (int k = 1; k <= SlotsValores::QuantidadeMandado; ++k) {
         const QString n = QStringLiteral("%1").arg(k, 2, 10, QLatin1Char('0'));
-        r02.campo(p, 1, T::X, s("IND_MANDADO_") + n, QString(""))
-            .campo(p + 1, 15, T::D2, s("VL_MANDADO_") + n, s("VL_TOTAL_DIVER_MANDADO"));
+        r02.campo(SlotsValores::posicaoIndicadorMandado(k), 1, T::X, s("IND_MANDADO_") + n, QString(""))
+            .campo(SlotsValores::posicaoValorMandado(k), SlotsValores::TamanhoValor, T::D2, s("VL_MANDADO_") + n,
+                   s("VL_TOTAL_DIVER_MANDADO"));
     }
     r << r02.pronto();
 
@@ -63,9 +64,10 @@ QVector<LayoutRegistro> cabecalho()
     r03.tipoRegistro()
         .campo(3, 10, T::N, s("NR_VRT"), s("NR_VRT"), s("VRT"))
         .campo(13, 17, T::N, s("NR_PROC_ADM_FISCAL"), s("NR_PROC_ADM_FISCAL"), s("VRT"));
-    for (int k = 1; k <= 33; ++k) {
+    for (int k = 1; k <= SlotsValores::QuantidadeRetif; ++k) {
         const QString n = QStringLiteral("%1").arg(k, 2, 10, QLatin1Char('0'));
-        r03.campo(30 + 15 * (k - 1), 15, T::D2, s("VL_RETIF_") + n, s("VL_TOTAL_DIVER_RETIF"));
+        r03.campo(SlotsValores::posicaoValorRetif(k), SlotsValores::TamanhoValor, T::D2, s("VL_RETIF_") + n,
+                  s("VL_TOTAL_DIVER_RETIF"));
     }
     r << r03.pronto();
     return r;
@@ -80,12 +82,12 @@ QVector<LayoutRegistro> mensal()
              .tipoRegistro()
              .zeros(3, 3)
              .campo(6, 8, T::N, s("CD_NCM_PRODUTO"))
-             .campo(14, 15, T::X, s("CD_INT_PRODUTO"))
+             .campo(14, 15, T::X, s("CD_INT_PRODUTO")).aparado()
              .campo(29, 1, T::N, s("CD_LOCAL_DESTINO"), s("CD_LOCAL_DESTINO"), s("DESTINO_ITEM_VRT_MEN"))
              .campo(30, 45, T::X, s("NM_INT_PRODUTO"))
-             .campo(75, 253, T::X, s("JUST_II_DIF_TEC"), s("JUST_II_DIF_TEC"), s("JUST_DIF_ALIQ_PROD_VRT_MEN"))
+             .campo(75, 253, T::X, s("JUST_II_DIF_TEC"), s("JUST_II_DIF_TEC"), s("JUST_DIF_ALIQ_PROD_VRT_MEN")).aparado()
              .campo(328, 5, T::D2, s("ALIQ_II_DIF_TEC"), s("ALIQ_II_DIF_TEC"), s("JUST_DIF_ALIQ_PROD_VRT_MEN"))
-             .campo(333, 253, T::X, s("JUST_IPI_DIF_TIPI"), s("JUST_IPI_DIF_TIPI"), s("JUST_DIF_ALIQ_PROD_VRT_MEN"))
+             .campo(333, 253, T::X, s("JUST_IPI_DIF_TIPI"), s("JUST_IPI_DIF_TIPI"), s("JUST_DIF_ALIQ_PROD_VRT_MEN")).aparado()
              .campo(586, 5, T::D2, s("ALIQ_IPI_DIF_TIPI"), s("ALIQ_IPI_DIF_TIPI"), s("JUST_DIF_ALIQ_PROD_VRT_MEN"))
              .brancos(591, 20)
              .zeros(611, 14)
@@ -93,7 +95,7 @@ QVector<LayoutRegistro> mensal()
              .zeros(639, 20)
              .zeros(659, 15)
              .campo(674, 14, T::D5, s("QT_PROD_LOC_DEST"), s("QT_PROD_LOC_DEST"), s("DESTINO_ITEM_VRT_MEN"))
-             .campo(688, 20, T::X, s("NM_UNID_MED_PROD"))
+             .campo(688, 20, T::X, s("NM_UNID_MED_PROD")).aparado()
              .pronto();
 
     r << MontaLayout(s("12"), 93, s("ITEM_NFA_PE_MEN"))
@@ -103,7 +105,7 @@ QVector<LayoutRegistro> mensal()
              .campo(22, 6, T::N, s("NR_NF_AQUIS"))
              .campo(28, 3, T::N, s("NR_ITEM_NF_AQUIS"))
              .campo(31, 8, T::DT, s("DT_EMISS_NF_AQUIS"))
-             .campo(39, 4, T::N, s("CD_CFOP_NF_AQUIS"))
+             .campo(39, 4, T::N, s("CD_CFOP_NF_AQUIS")).semZerosEsquerda()
              .campo(43, 1, T::X, s("IND_DL_288_67"))
              .campo(44, 1, T::X, s("IND_OBSOLE_RESIDUO"))
              .campo(45, 14, T::D5, s("QT_PROD_UNID_PROD"))
@@ -114,19 +116,19 @@ QVector<LayoutRegistro> mensal()
     r << MontaLayout(s("13"), 133, s("ITEM_DI_PE_MEN"))
              .ateTamanho()
              .tipoRegistro()
-             .campo(3, 10, T::N, s("NR_DI"))
-             .campo(13, 15, T::N, s("NR_DI_ANTIGA"))
+             .campo(3, 10, T::N, s("NR_DI")).zerosVazio()
+             .campo(13, 15, T::N, s("NR_DI_ANTIGA")).zerosVazio()
              .campo(28, 3, T::N, s("NR_ADICAO_DI"))
              .campo(31, 2, T::N, s("NR_ITEM_ADICAO"))
              .campo(33, 1, T::X, s("IND_DL_288_67"))
              .campo(34, 1, T::X, s("IND_OBSOLE_RESIDUO"))
              .campo(35, 14, T::D5, s("QT_PROD_UNID_PROD"))
              .campo(49, 20, T::D7, s("VL_PROD_UNID_PROD"), s("VL_PROD_UNID_PROD"), s("ITEM_IMPORT_288_PE_MEN"))
-             .campo(69, 3, T::N, s("CD_MOEDA_NEG"), s("CD_MOEDA_NEG"), s("ITEM_IMPORT_288_PE_MEN"))
+             .campo(69, 3, T::N, s("CD_MOEDA_NEG"), s("CD_MOEDA_NEG"), s("ITEM_IMPORT_288_PE_MEN")).zerosVazio()
              .campo(72, 20, T::D7, s("VL_FRETE_UNID_INT"), s("VL_FRETE_UNID_INT"), s("ITEM_IMPORT_288_PE_MEN"))
-             .campo(92, 3, T::N, s("CD_MOEDA_FRETE"), s("CD_MOEDA_FRETE"), s("ITEM_IMPORT_288_PE_MEN"))
+             .campo(92, 3, T::N, s("CD_MOEDA_FRETE"), s("CD_MOEDA_FRETE"), s("ITEM_IMPORT_288_PE_MEN")).zerosVazio()
              .campo(95, 20, T::D7, s("VL_SEGURO_UNID_INT"), s("VL_SEGURO_UNID_INT"), s("ITEM_IMPORT_288_PE_MEN"))
-             .campo(115, 3, T::N, s("CD_MOEDA_SEGURO"), s("CD_MOEDA_SEGURO"), s("ITEM_IMPORT_288_PE_MEN"))
+             .campo(115, 3, T::N, s("CD_MOEDA_SEGURO"), s("CD_MOEDA_SEGURO"), s("ITEM_IMPORT_288_PE_MEN")).zerosVazio()
              .campo(118, 15, T::D2, s("VL_TOT_PROD_OBSOLE"), s("VL_TOT_PROD_OBSOLE"), s("ITEM_IMPORT_288_PE_MEN"))
              .campo(133, 1, T::X, s("IND_SUSP_PIS_COFINS"))
              .pronto();
@@ -134,8 +136,8 @@ QVector<LayoutRegistro> mensal()
     r << MontaLayout(s("14"), 114, s("ITEM_DSI_PE_MEN"))
              .ateTamanho()
              .tipoRegistro()
-             .campo(3, 10, T::N, s("NR_DSI"))
-             .campo(13, 15, T::N, s("NR_DSI_ANTIGA"))
+             .campo(3, 10, T::N, s("NR_DSI")).zerosVazio()
+             .campo(13, 15, T::N, s("NR_DSI_ANTIGA")).zerosVazio()
              .campo(28, 3, T::N, s("NR_BEM"))
              .campo(31, 14, T::D5, s("QT_PROD_UNID_PROD"))
              .campo(45, 20, T::D7, s("VL_PROD_UNID_PROD"))
@@ -152,16 +154,16 @@ QVector<LayoutRegistro> mensal()
              .zeros(3, 3)
              .campo(6, 1, T::N, s("CD_LOCAL_DESTINO"))
              // NR_DCRE_DCR of a DCR-E (type "1"), else zeros.
-             .campo(7, 10, T::N, s("NR_DCRE"), s("NR_DCRE_DCR"), s("ITEM_VRT_MEN_PI_COM_PPB"))
-             .campo(17, 15, T::X, s("CD_INT_PRODUTO"), s("CD_INT_PRODUTO"), s("ITEM_VRT_MEN"))
+             .campo(7, 10, T::N, s("NR_DCRE"), s("NR_DCRE_DCR"), s("ITEM_VRT_MEN_PI_COM_PPB")).semZerosEsquerda()
+             .campo(17, 15, T::X, s("CD_INT_PRODUTO"), s("CD_INT_PRODUTO"), s("ITEM_VRT_MEN")).aparado()
              // NR_DCRE_DCR of a DCR (type "2"), else zeros.
-             .campo(32, 9, T::N, s("NR_DCR"), s("NR_DCRE_DCR"), s("ITEM_VRT_MEN_PI_COM_PPB"))
+             .campo(32, 9, T::N, s("NR_DCR"), s("NR_DCRE_DCR"), s("ITEM_VRT_MEN_PI_COM_PPB")).semZerosEsquerda()
              .campo(41, 45, T::X, s("NM_INT_PRODUTO"), s("NM_INT_PRODUTO"), s("ITEM_VRT_MEN"))
              .campo(86, 20, T::D7, s("VL_II_UNIT_DOLAR"))
              .campo(106, 5, T::D2, s("PC_COEF_REDUCAO_II"))
              .zeros(111, 14)
              .campo(125, 14, T::D5, s("QT_PROD_LOC_DEST"))
-             .campo(139, 20, T::X, s("NM_UNID_MED_DEST"))
+             .campo(139, 20, T::X, s("NM_UNID_MED_DEST")).aparado()
              .campo(159, 20, T::D7, s("VL_PIS"))
              .campo(179, 20, T::D7, s("VL_COFINS"))
              .pronto();
@@ -170,9 +172,9 @@ QVector<LayoutRegistro> mensal()
     r31.semFimDeLinha()
         .tipoRegistro()
         .zeros(3, 3)
-        .campo(6, 15, T::X, s("CD_INT_PRODUTO"))
+        .campo(6, 15, T::X, s("CD_INT_PRODUTO")).aparado()
         .campo(21, 45, T::X, s("NM_INT_PRODUTO"))
-        .campo(66, 20, T::X, s("NM_UNID_MED_PROD"))
+        .campo(66, 20, T::X, s("NM_UNID_MED_PROD")).aparado()
         .campo(86, 8, T::N, s("CD_NCM_PRODUTO"))
         .zeros(94, 14)
         .zeros(108, 20);
@@ -188,23 +190,23 @@ QVector<LayoutRegistro> mensal()
              .semFimDeLinha()
              .tipoRegistro()
              .zeros(3, 3)
-             .campo(6, 15, T::X, s("CD_INT_PRODUTO"), s("CD_INT_PRODUTO"), s("ITEM_VRT_MEN"))
-             .campo(21, 15, T::X, s("CD_INT_INSUMO"))
+             .campo(6, 15, T::X, s("CD_INT_PRODUTO"), s("CD_INT_PRODUTO"), s("ITEM_VRT_MEN")).aparado()
+             .campo(21, 15, T::X, s("CD_INT_INSUMO")).aparado()
              .campo(36, 8, T::N, s("CD_NCM_INSUMO"))
              .campo(44, 45, T::X, s("NM_INT_INSUMO"))
-             .campo(89, 20, T::X, s("NM_UNID_MED_INSUMO"))
+             .campo(89, 20, T::X, s("NM_UNID_MED_INSUMO")).aparado()
              .campo(109, 14, T::D5, s("QT_INSUMO_POR_PROD"))
              .pronto();
 
     r << MontaLayout(s("33"), 565, s("JUST_DIF_ALIQ_INS_VRT_MEN"))
              .tipoRegistro()
              .zeros(3, 3)
-             .campo(6, 15, T::X, s("CD_INT_INSUMO"), s("CD_INT_INSUMO"), s("INSUMO_ITEM_VRT_MEN"))
+             .campo(6, 15, T::X, s("CD_INT_INSUMO"), s("CD_INT_INSUMO"), s("INSUMO_ITEM_VRT_MEN")).aparado()
              .campo(21, 14, T::D5, s("QT_TOT_INS_EST"), s("QT_TOT_INS_EST"), s("INSUMO_VRT"))
              .campo(35, 1, T::N, s("CD_LOCAL_DESTINO"), s("CD_LOCAL_DESTINO"), s("TOT_INSUMO_CONSOLIDADO"))
-             .campo(36, 253, T::X, s("JUST_II_DIF_TEC"))
+             .campo(36, 253, T::X, s("JUST_II_DIF_TEC")).aparado()
              .campo(289, 5, T::D2, s("ALIQ_II_DIF_TEC"))
-             .campo(294, 253, T::X, s("JUST_IPI_DIF_TIPI"))
+             .campo(294, 253, T::X, s("JUST_IPI_DIF_TIPI")).aparado()
              .campo(547, 5, T::D2, s("ALIQ_IPI_DIF_TIPI"))
              .campo(552, 14, T::D5, s("QT_TOT_INS_POR_LOC"), s("QT_TOT_INS_POR_LOC"), s("TOT_INSUMO_CONSOLIDADO"))
              .pronto();
@@ -216,11 +218,11 @@ QVector<LayoutRegistro> mensal()
              .campo(22, 6, T::N, s("NR_NF_AQUIS"))
              .campo(28, 3, T::N, s("NR_ITEM_NF_AQUIS"))
              .campo(31, 8, T::DT, s("DT_EMISS_NF_AQUIS"))
-             .campo(39, 4, T::N, s("CD_CFOP_NF_AQUIS"))
+             .campo(39, 4, T::N, s("CD_CFOP_NF_AQUIS")).semZerosEsquerda()
              .campo(43, 1, T::X, s("IND_DL_288_67"))
              .campo(44, 14, T::D5, s("QT_INSUMO_UNID_INS"))
              .campo(58, 20, T::D7, s("VL_INSUMO_UNID_INS"))
-             .campo(78, 15, T::X, s("CD_INT_INSUMO"))
+             .campo(78, 15, T::X, s("CD_INT_INSUMO")).aparado()
              .campo(93, 1, T::N, s("CD_LOCAL_DESTINO"))
              .pronto();
 
@@ -239,7 +241,7 @@ QVector<LayoutRegistro> mensal()
              .campo(91, 3, T::N, s("CD_MOEDA_FRETE"), s("CD_MOEDA_FRETE"), s("ITEM_IMPORT_288_INS_MEN"))
              .campo(94, 20, T::D7, s("VL_SEGURO_UNID_INT"), s("VL_SEGURO_UNID_INT"), s("ITEM_IMPORT_288_INS_MEN"))
              .campo(114, 3, T::N, s("CD_MOEDA_SEGURO"), s("CD_MOEDA_SEGURO"), s("ITEM_IMPORT_288_INS_MEN"))
-             .campo(117, 15, T::X, s("CD_INT_INSUMO"))
+             .campo(117, 15, T::X, s("CD_INT_INSUMO")).aparado()
              .campo(132, 1, T::N, s("CD_LOCAL_DESTINO"))
              .campo(133, 1, T::X, s("IND_SUSP_PIS_COFINS"))
              .pronto();
@@ -251,7 +253,7 @@ QVector<LayoutRegistro> mensal()
              .campo(13, 15, T::N, s("NR_DSI_ANTIGA"))
              .campo(28, 3, T::N, s("NR_BEM"))
              .campo(31, 14, T::D5, s("QT_INSUMO_UNID_INS"))
-             .campo(45, 15, T::X, s("CD_INT_INSUMO"))
+             .campo(45, 15, T::X, s("CD_INT_INSUMO")).aparado()
              .campo(60, 1, T::N, s("CD_LOCAL_DESTINO"))
              .campo(61, 20, T::D7, s("VL_PROD_UNID_PROD"))
              .campo(81, 3, T::N, s("CD_MOEDA_NEG"))
@@ -266,9 +268,9 @@ QVector<LayoutRegistro> mensal()
              .tipoRegistro()
              .zeros(3, 3)
              .campo(6, 8, T::N, s("CD_NCM_PRODUTO"))
-             .campo(14, 15, T::X, s("CD_INT_PRODUTO"))
+             .campo(14, 15, T::X, s("CD_INT_PRODUTO")).aparado()
              .campo(29, 45, T::X, s("NM_INT_PRODUTO"))
-             .campo(74, 20, T::X, s("NM_UNID_MED_PROD"))
+             .campo(74, 20, T::X, s("NM_UNID_MED_PROD")).aparado()
              .zeros(94, 14)
              .zeros(108, 14)
              .zeros(122, 20)

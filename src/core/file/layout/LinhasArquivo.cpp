@@ -5,9 +5,16 @@
 bool LinhasArquivo::abre(const QString& caminho)
 {
     QFile arquivo(caminho);
-    if (!arquivo.open(QIODevice::ReadOnly))
+    return abre(arquivo);
+}
+
+bool LinhasArquivo::abre(QIODevice& dispositivo)
+{
+    if (!dispositivo.isOpen() && !dispositivo.open(QIODevice::ReadOnly))
         return false;
-    m_dados = arquivo.readAll();
+    if (!dispositivo.isReadable())
+        return false;
+    m_dados = dispositivo.readAll();
     m_posicao = 0;
     m_total = m_dados.count('\n');
     if (!m_dados.isEmpty() && !m_dados.endsWith('\n'))

@@ -5,10 +5,14 @@
 #include <QString>
 #include <QStringDecoder>
 
+class QIODevice;
+
 class LinhasArquivo {
 public:
     // Reads the whole file; false when it cannot be opened.
     bool abre(const QString& caminho);
+    // Reads what is left of the device, opening it for reading when it is not open; false when it cannot be.
+    bool abre(QIODevice& dispositivo);
     // Lines in the file: what the progress is measured against.
     qint64 total() const { return m_total; }
     bool fim() const { return m_posicao >= m_dados.size(); }

@@ -31,7 +31,22 @@ MontaLayout& MontaLayout::campo(int posicao, int tamanho, TipoCampo tipo, const 
     c.nome = nome;
     c.coluna = coluna.isNull() ? nome : coluna;
     c.tabela = tabela;
+    switch (tipo) {
+    case TipoCampo::R: c.leitura = LeituraCampo::Aparado; break;
+    case TipoCampo::D2:
+    case TipoCampo::D5:
+    case TipoCampo::D7: c.leitura = LeituraCampo::Decimal; break;
+    case TipoCampo::DT: c.leitura = LeituraCampo::Data; break;
+    default: c.leitura = LeituraCampo::ComoEsta; break;
+    }
     m_registro.campos.append(c);
+    return *this;
+}
+
+MontaLayout& MontaLayout::le(LeituraCampo leitura)
+{
+    Q_ASSERT(!m_registro.campos.isEmpty());
+    m_registro.campos.last().leitura = leitura;
     return *this;
 }
 

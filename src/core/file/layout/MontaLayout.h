@@ -13,6 +13,10 @@ public:
     // A field that maps to a column: `coluna` defaults to the name, `tabela` to the record's own.
     MontaLayout& campo(int posicao, int tamanho, TipoCampo tipo, const QString& nome,
                        const QString& coluna = QString(), const QString& tabela = QString());
+    // The reader's rule of the field just added, where it differs from its kind's (see LeituraCampo).
+    MontaLayout& aparado() { return le(LeituraCampo::Aparado); }
+    MontaLayout& zerosVazio() { return le(LeituraCampo::ZerosVazio); }
+    MontaLayout& semZerosEsquerda() { return le(LeituraCampo::SemZerosEsquerda); }
     // Positions 1-2, the record type.
     MontaLayout& tipoRegistro();
     MontaLayout& zeros(int posicao, int tamanho);
@@ -21,6 +25,7 @@ public:
     LayoutRegistro pronto() const;
 
 private:
+    MontaLayout& le(LeituraCampo leitura);
     MontaLayout& constante(int posicao, int tamanho, const QString& nome, const QString& valor);
     LayoutRegistro m_registro;
 };

@@ -86,6 +86,25 @@ QString RegistroLido::data(const QString& nome) const
     return dataDoArquivo(texto(nome));
 }
 
+QString RegistroLido::lido(const CampoLayout& c) const
+{
+    const QString t = naoNulo(c.de(m_linha));
+    switch (c.leitura) {
+    case LeituraCampo::ComoEsta: return t;
+    case LeituraCampo::Aparado: return naoNulo(t.trimmed());
+    case LeituraCampo::ZerosVazio: return soZeros(t) ? QString(QLatin1String("")) : t;
+    case LeituraCampo::SemZerosEsquerda: return naoNulo(tiraZerosEsquerda(t));
+    case LeituraCampo::Decimal: return naoNulo(Funcoes::InsereVirgula(tiraZerosEsquerda(t), c.casas()));
+    case LeituraCampo::Data: return dataDoArquivo(t);
+    }
+    return t;
+}
+
+QString RegistroLido::lido(const QString& nome) const
+{
+    return lido(campo(nome));
+}
+
 bool RegistroLido::zeros(const QString& nome) const
 {
     return soZeros(texto(nome));

@@ -25,6 +25,9 @@ public:
     QString decimal(const QString& campo) const;
     // A DT field from yyyymmdd back to ddmmyyyy.
     QString data(const QString& campo) const;
+    // The field by its own rule (CampoLayout::leitura): what the reader stores.
+    QString lido(const CampoLayout& campo) const;
+    QString lido(const QString& campo) const;
     bool zeros(const QString& campo) const;
     bool brancos(const QString& campo) const;
 

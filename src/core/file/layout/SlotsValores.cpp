@@ -1,5 +1,7 @@
 #include "core/file/layout/SlotsValores.h"
 
+#include <iterator>
+
 namespace {
 
 struct Linha {
@@ -94,6 +96,9 @@ const Linha linhasRetif[] = {
     {3, 13, u"Juros de Mora COFINS"},
 };
 
+static_assert(std::size(linhasMandado) == SlotsValores::QuantidadeMandado);
+static_assert(std::size(linhasRetif) == SlotsValores::QuantidadeRetif);
+
 QVector<SlotValor> montaMandado()
 {
     QVector<SlotValor> v;
@@ -102,8 +107,8 @@ QVector<SlotValor> montaMandado()
         ++k;
         SlotValor s;
         s.slot = k;
-        s.posicaoIndicador = 4 + 16 * (k - 1);
-        s.posicaoValor = s.posicaoIndicador + 1;
+        s.posicaoIndicador = SlotsValores::posicaoIndicadorMandado(k);
+        s.posicaoValor = SlotsValores::posicaoValorMandado(k);
         s.cdMod = l.mod;
         s.cdTipo = l.tipo;
         s.nmMod = nomeModalidade(l.mod);
@@ -121,7 +126,7 @@ QVector<SlotValor> montaRetif()
         ++k;
         SlotValor s;
         s.slot = k;
-        s.posicaoValor = 30 + 15 * (k - 1);
+        s.posicaoValor = SlotsValores::posicaoValorRetif(k);
         s.cdMod = l.mod;
         s.cdTipo = l.tipo;
         s.nmMod = nomeModalidade(l.mod);

@@ -20,6 +20,13 @@ struct SlotValor {
 class SlotsValores {
 public:
     static constexpr int TamanhoValor = 15;
+    static constexpr int QuantidadeMandado = 35;
+    static constexpr int QuantidadeRetif = 33;
+    // Where slot k (from 1) stands: record 02 gives each slot its flag and then its value, record 03 only
+    // the value. The layouts of both records and the readers take the positions from here.
+    static constexpr int posicaoIndicadorMandado(int k) { return 4 + (1 + TamanhoValor) * (k - 1); }
+    static constexpr int posicaoValorMandado(int k) { return posicaoIndicadorMandado(k) + 1; }
+    static constexpr int posicaoValorRetif(int k) { return 30 + TamanhoValor * (k - 1); }
     static const QVector<SlotValor>& mandado();
     static const QVector<SlotValor>& retif();
     // The slot of a pair of codes, compared as numbers ("03" finds 3), or 0 when the pair has none.

@@ -1,10 +1,14 @@
 #include "core/file/reading/CadastrosLeitura.h"
 
-#include "core/file/reading/ComandosPreparados.h"
+#include "core/file/reading/EstadoLeitura.h"
 #include "core/rules/Formatadores.h"
 #include "core/session/MsgBox.h"
+#include "core/store/ComandosPreparados.h"
 
-CadastrosLeitura::CadastrosLeitura(ComandosPreparados& comandos) : m_comandos(comandos) {}
+CadastrosLeitura::CadastrosLeitura(ComandosPreparados& comandos, EstadoLeitura& estado)
+    : m_comandos(comandos), m_estado(estado)
+{
+}
 
 void CadastrosLeitura::zeraContadores()
 {
@@ -61,9 +65,8 @@ bool CadastrosLeitura::RegistraUnidade(QString& nome)
         m_unidades.insert(nome);
         return true;
     }
-    MsgBox(QStringLiteral("Limite máximo de unidades de medidas cadastradas foi atindigo."), Msg::Critical,
-           QStringLiteral("Erro de Importação"));
-    return false;
+    return m_estado.falha(QString(), QStringLiteral("Limite máximo de unidades de medidas cadastradas foi atindigo."),
+                          Msg::Critical, QStringLiteral("Erro de Importação"));
 }
 
 bool CadastrosLeitura::ExisteProduto(const QString& codigo)

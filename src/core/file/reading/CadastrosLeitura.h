@@ -8,10 +8,12 @@
 #include <QString>
 
 class ComandosPreparados;
+struct EstadoLeitura;
 
 class CadastrosLeitura {
 public:
-    explicit CadastrosLeitura(ComandosPreparados& comandos);
+    // Messages go to the reading's state.
+    CadastrosLeitura(ComandosPreparados& comandos, EstadoLeitura& estado);
 
     // The product with this code gets this name: updated when it exists (counted as changed, also when the
     // name is the same), inserted otherwise (counted as registered). Code and name are trimmed. The result
@@ -30,6 +32,7 @@ public:
 
 private:
     ComandosPreparados& m_comandos;
+    EstadoLeitura& m_estado;
     QHash<QString, QString> m_produtos;  // code -> name now in PRODUTO
     QSet<QString> m_unidades;            // names known to be in UNIDADE_MEDIDA
     QHash<QString, bool> m_ncm;

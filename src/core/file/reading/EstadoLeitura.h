@@ -9,6 +9,18 @@
 #include <QSet>
 #include <QString>
 #include <QVariant>
+#include <QVector>
+
+// One thing a reading has to tell, in the order it happened: the line (counted from 1, header included; 0 for
+// the file as a whole), the record type when the message is about one ("11"), the text, and how the message
+// seam shows it (style and title; an empty title is the default one).
+struct MensagemLeitura {
+    int linha = 0;
+    QString registro;
+    QString texto;
+    int estilo = 16;  // Msg::Critical
+    QString titulo;
+};
 
 struct EstadoLeitura {
     int ContaLinhas = 0;
@@ -34,9 +46,16 @@ struct EstadoLeitura {
     QSet<qint64> insumosComJustificativa;   // JUST_DIF_ALIQ_INS_VRT_MEN
     QSet<QString> insumosComTotal;          // INSUMO_VRT / INSUMO_VRT_IND
 
-    // "Erro no " + ContaLinhas + "º registro (registro " + tipo + ") - " + motivo + "!", a critical box; false.
-    bool erroRegistro(const QString& tipo, const QString& motivo) const;
+    // What the reading has told so far; the last one is why it stopped, when it stopped.
+    QVector<MensagemLeitura> mensagens;
+
+    // Records a message about the current line; false, so that a reader can return it.
+    bool falha(const QString& tipo, const QString& texto, int estilo = 16, const QString& titulo = QString());
+    // "Erro no " + ContaLinhas + "º registro (registro " + tipo + ") - " + motivo + "!", critical; false.
+    bool erroRegistro(const QString& tipo, const QString& motivo);
+    // The key of the row just inserted (`ultima`) into `chave`; without one, `mensagem` (critical) and false.
+    bool novaChave(QVariant& chave, const QVariant& ultima, const QString& tipo, const QString& mensagem);
     // The length that the record's layout enforces: exact, or at most, a shorter line then filled with blanks
     // up to it. False, with "Tamanho inválido", otherwise.
-    bool confereTamanho(const LayoutRegistro& layout, QString& linha) const;
+    bool confereTamanho(const LayoutRegistro& layout, QString& linha);
 };

@@ -1,17 +1,20 @@
 #include "core/file/reading/LeArquivoVrt.h"
 
 #include "core/file/reading/CadastrosLeitura.h"
-#include "core/file/reading/ComandosPreparados.h"
 #include "core/file/numbering/GeraIdentificacao.h"
-#include "core/file/layout/RegistroLido.h"
 #include "core/file/layout/LinhasArquivo.h"
 #include "core/file/reading/ModGravaVrtIndividual.h"
 #include "core/file/reading/ModGravaVrtMensal.h"
+#include "core/file/layout/RegistroLido.h"
+#include "core/file/layout/RegistrosCabeca.h"
 #include "core/file/layout/SlotsValores.h"
 #include "core/rules/Formatadores.h"
 #include "core/session/MsgBox.h"
+#include "core/store/Cadastros.h"
+#include "core/store/ComandosPreparados.h"
 #include "core/store/modBancoDados.h"
 
+#include <QFile>
 #include <QSet>
 
 namespace {
@@ -24,17 +27,24 @@ QVariant tx(const QString& v)
     return ComandosPreparados::texto(v);
 }
 const QString ZerosValor = QString(SlotsValores::TamanhoValor, QLatin1Char('0'));
-
-bool erroCabecalho(const QString& texto)
-{
-    MsgBox(texto, Msg::Critical);
-    return false;
-}
 }  // namespace
 
-LeArquivoVrt::LeArquivoVrt(const QString& pasta, const QString& nome, ModoLeitura modo)
-    : m_caminho(pasta.isEmpty() ? nome : pasta + QLatin1Char('/') + nome), m_modo(modo)
+LeArquivoVrt::LeArquivoVrt(QIODevice& arquivo, ModoLeitura modo) : m_arquivo(&arquivo), m_modo(modo)
 {
+    if (auto* f = qobject_cast<QFile*>(&arquivo))
+        m_caminho = f->fileName();
+}
+
+LeArquivoVrt::LeArquivoVrt(const QString& pasta, const QString& nome, ModoLeitura modo)
+    : m_arquivoProprio(std::make_unique<QFile>(pasta.isEmpty() ? nome : pasta + QLatin1Char('/') + nome)),
+      m_arquivo(m_arquivoProprio.get()), m_modo(modo)
+{
+    m_caminho = static_cast<QFile*>(m_arquivo)->fileName();
+}
+
+bool LeArquivoVrt::erroCabecalho(const QString& texto)
+{
+    return m_estado.falha(m_cabecaAtual, texto);
 }
 
 LeArquivoVrt::~LeArquivoVrt() = default;
@@ -52,17 +62,44 @@ void LeArquivoVrt::avisaProgresso(qint64 lidas, qint64 total, bool sempre)
 
 bool LeArquivoVrt::executa()
 {
-    m_resultado = ResultadoLeitura();
-    LinhasArquivo linhas;
-    if (!linhas.abre(m_caminho))
-        return erroCabecalho(s("Não foi possível abrir o arquivo ") + m_caminho + s("."));
-    if (linhas.fim())
-        return erroCabecalho(s("Erro - Arquivo sem registros!"));
+    mostra(le(), m_modo);
+    return m_resultado.concluida;
+}
 
+void LeArquivoVrt::mostra(const ResultadoLeitura& r, ModoLeitura modo)
+{
+    for (const MensagemLeitura& m : r.mensagens)
+        MsgBox(m.texto, m.estilo, m.titulo);
+    if (!r.concluida)
+        return;
+    if (modo == ModoLeitura::Restaurar)
+        MsgBox(s("Backup restaurado com o nome ") + r.IdVrtLida, Msg::Information);
+    else
+        MsgBox(relatorio(r), Msg::Information);
+}
+
+const ResultadoLeitura& LeArquivoVrt::le()
+{
+    m_resultado = ResultadoLeitura();
+    m_estado = EstadoLeitura();
+    LinhasArquivo linhas;
+    if (!linhas.abre(*m_arquivo)) {
+        erroCabecalho(s("Não foi possível abrir o arquivo ") + m_caminho + s("."));
+    } else if (linhas.fim()) {
+        erroCabecalho(s("Erro - Arquivo sem registros!"));
+    } else {
+        leDentroDaTransacao(linhas);
+    }
+    m_resultado.mensagens = m_estado.mensagens;
+    return m_resultado;
+}
+
+void LeArquivoVrt::leDentroDaTransacao(LinhasArquivo& linhas)
+{
     bool concluida = false;
     {
         ComandosPreparados comandos;
-        CadastrosLeitura cadastros(comandos);
+        CadastrosLeitura cadastros(comandos, m_estado);
         m_comandos = &comandos;
         m_cadastros = &cadastros;
         // One transaction for the whole file: a failure anywhere rolls back everything, the number taken and
@@ -81,16 +118,11 @@ bool LeArquivoVrt::executa()
     m_resultado.ContaLinhas = m_estado.ContaLinhas;
     if (!concluida) {
         avisaProgresso(0, linhas.total(), true);
-        return false;
+        return;
     }
     m_resultado.concluida = true;
     m_resultado.IdVrtLida = m_estado.IdVrtLida;
     avisaProgresso(linhas.total(), linhas.total(), true);
-    if (m_modo == ModoLeitura::Restaurar)
-        MsgBox(s("Backup restaurado com o nome ") + m_estado.IdVrtLida, Msg::Information);
-    else
-        MsgBox(relatorio(m_resultado), Msg::Information);
-    return true;
 }
 
 QString LeArquivoVrt::relatorio(const ResultadoLeitura& r)
@@ -137,20 +169,28 @@ bool LeArquivoVrt::leLinhas(LinhasArquivo& linhas)
         m_estado.idNfs = m_comandos->valor("SELECT ID_NFS FROM NOTA_FISCAL_SAIDA WHERE ID_VRT_MICRO = ?",
                                            {m_estado.IdVrtLida});
         if (!m_estado.idNfs.isValid())
-            return erroCabecalho(s("ERRO NA RECUPERAÇÃO DO REGISTRO 01 DA INDIVIDUAL"));
+            return m_estado.falha(s("01"), s("ERRO NA RECUPERAÇÃO DO REGISTRO 01 DA INDIVIDUAL"));
     }
     return leItens(linhas);
 }
 
+bool LeArquivoVrt::leCabeca(LinhasArquivo& linhas, int numero, QString& linha)
+{
+    const QString tipo = RegistrosCabeca::tipo(numero);
+    m_cabecaAtual = tipo;
+    if (linhas.fim())
+        return m_estado.falha(tipo, RegistrosCabeca::textoAusente(numero));
+    linha = linhas.proxima();
+    ++m_estado.ContaLinhas;
+    const QString problema = RegistrosCabeca::confere(numero, linha);
+    return problema.isEmpty() || m_estado.falha(tipo, problema);
+}
+
 bool LeArquivoVrt::registro00(LinhasArquivo& linhas)
 {
-    const QString linha = linhas.proxima();
-    ++m_estado.ContaLinhas;
-    if (linha.size() != 61)
-        return erroCabecalho(s("Erro no registro 00 - Tamanho inválido!"));
-    if (linha.left(2) != s("00"))
-        return erroCabecalho(s("Erro no ") + QString::number(m_estado.ContaLinhas) +
-                             s("º registro - Tipo de registro não é 00!"));
+    QString linha;
+    if (!leCabeca(linhas, 1, linha))
+        return false;
     const QString cabecalho = linha.left(10);
     if (cabecalho != s("00VRT/PLN1") && cabecalho != s("00VRT/PLN2") && cabecalho != s("00VRT/PLN3"))
         return erroCabecalho(s("Erro no Header"));
@@ -167,7 +207,7 @@ bool LeArquivoVrt::registro00(LinhasArquivo& linhas)
             return false;
     }
 
-    const RegistroLido r(linha, LayoutRegistro::de(TipoDeclaracao::Mensal, s("00")));
+    const RegistroLido r(linha, RegistrosCabeca::layout(1));
     if (r.texto(s("VERSAO_LAYOUT")) != s("02.00"))
         return erroCabecalho(s("Erro no registro 00 - Versão do sistema!"));
     m_estado.TipoVrtLida = r.texto(s("CD_TIPO_VRT"));
@@ -214,22 +254,16 @@ bool LeArquivoVrt::procuraDuplicada()
     if (MsgBox(pergunta, Msg::YesNo) != Msg::Yes)
         return false;
     // The replacement keeps the identification, so no number is taken; the rows go by the cascades.
-    m_comandos->executa("DELETE FROM VRT WHERE ID_VRT_MICRO = ?", {m_estado.IdVrtLida});
+    Cadastros::ExcluiVrt(m_estado.IdVrtLida);
     return true;
 }
 
 bool LeArquivoVrt::registro01(LinhasArquivo& linhas)
 {
-    if (linhas.fim())
-        return erroCabecalho(s("Erro no arquivo - Não foi localizado o registro 01!"));
-    const QString linha = linhas.proxima();
-    ++m_estado.ContaLinhas;
-    if (linha.size() != 113)
-        return erroCabecalho(s("Erro no registro 01 - Tamanho inválido!"));
-    if (linha.left(2) != s("01"))
-        return erroCabecalho(s("Erro no ") + QString::number(m_estado.ContaLinhas) +
-                             s("º registro - Tipo de registro não é 01!"));
-    const RegistroLido r(linha, LayoutRegistro::de(TipoDeclaracao::Mensal, s("01")));
+    QString linha;
+    if (!leCabeca(linhas, 2, linha))
+        return false;
+    const RegistroLido r(linha, RegistrosCabeca::layout(2));
     const auto data = [&r](const char* campo) {
         const QString d = r.texto(s(campo));
         return d == s("00000000") ? d : RegistroLido::dataDoArquivo(d);
@@ -265,15 +299,9 @@ void LeArquivoVrt::gravaCabecalho()
 
 bool LeArquivoVrt::registro02(LinhasArquivo& linhas)
 {
-    if (linhas.fim())
-        return erroCabecalho(s("Erro no arquivo - Não foi localizado o registro 02!"));
-    const QString linha = linhas.proxima();
-    ++m_estado.ContaLinhas;
-    if (linha.size() != 563)
-        return erroCabecalho(s("Erro no registro 02 - Tamanho inválido!"));
-    if (linha.left(2) != s("02"))
-        return erroCabecalho(s("Erro no ") + QString::number(m_estado.ContaLinhas) +
-                             s("º registro - Tipo de registro não é 02!"));
+    QString linha;
+    if (!leCabeca(linhas, 3, linha))
+        return false;
     const QString indicador = linha.mid(2, 1);
     if (indicador != s("N") && indicador != s("S"))
         return erroCabecalho(s("Erro no registro 02 - Indicador de mandado judicial inválido!"));
@@ -284,16 +312,10 @@ bool LeArquivoVrt::registro02(LinhasArquivo& linhas)
 
 bool LeArquivoVrt::registro03(LinhasArquivo& linhas)
 {
-    if (linhas.fim())
-        return erroCabecalho(s("Erro no arquivo - Não foi localizado o registro 03!"));
-    const QString linha = linhas.proxima();
-    ++m_estado.ContaLinhas;
-    if (linha.size() != 524)
-        return erroCabecalho(s("Erro no registro 03 - Tamanho inválido!"));
-    if (linha.left(2) != s("03"))
-        return erroCabecalho(s("Erro no ") + QString::number(m_estado.ContaLinhas) +
-                             s("º registro - Tipo de registro não é 03!"));
-    const RegistroLido r(linha, LayoutRegistro::de(TipoDeclaracao::Mensal, s("03")));
+    QString linha;
+    if (!leCabeca(linhas, 4, linha))
+        return false;
+    const RegistroLido r(linha, RegistrosCabeca::layout(4));
     m_processo = r.texto(s("NR_PROC_ADM_FISCAL"));
     if (r.zeros(s("NR_VRT"))) {
         // Not a rectification: its slots are not read, and the process number keeps its zeros.
@@ -350,10 +372,8 @@ bool LeArquivoVrt::leItens(LinhasArquivo& linhas)
         ++m_estado.ContaLinhas;
         avisaProgresso(m_estado.ContaLinhas, linhas.total());
         const QString tipo = linha.left(2);
-        if (!tiposItens.contains(tipo)) {
-            MsgBox(s("Registro inesperado"), Msg::OKOnly);
-            return false;
-        }
+        if (!tiposItens.contains(tipo))
+            return m_estado.falha(tipo, s("Registro inesperado"), Msg::OKOnly);
         const bool ok = m_estado.declaracao == TipoDeclaracao::Mensal ? mensal.leRegistro(tipo, linha)
                                                                       : individual.leRegistro(tipo, linha);
         if (!ok)
@@ -365,6 +385,13 @@ bool LeArquivoVrt::leItens(LinhasArquivo& linhas)
 bool LeArquivoVrtEm(const QString& pasta, const QString& nome, ModoLeitura modo, ProgressoLeitura progresso)
 {
     LeArquivoVrt leitura(pasta, nome, modo);
+    leitura.defineProgresso(std::move(progresso));
+    return leitura.executa();
+}
+
+bool LeArquivoVrtEm(QIODevice& arquivo, ModoLeitura modo, ProgressoLeitura progresso)
+{
+    LeArquivoVrt leitura(arquivo, modo);
     leitura.defineProgresso(std::move(progresso));
     return leitura.executa();
 }

@@ -2,6 +2,7 @@
 
 #include "core/file/reading/EstadoLeitura.h"
 #include "core/file/layout/RegistroLido.h"
+#include "core/store/ComandosPreparados.h"
 
 LeitorItens::LeitorItens(TipoDeclaracao declaracao, EstadoLeitura& estado, ComandosPreparados& comandos,
                                  CadastrosLeitura& cadastros)
@@ -30,4 +31,9 @@ bool LeitorItens::leRegistro(const QString& tipo, QString& linha)
     case 41: return registro41(r);
     default: return false;
     }
+}
+
+bool LeitorItens::novaChave(QVariant& chave, const QString& tipo, const QString& mensagem)
+{
+    return m_estado.novaChave(chave, m_comandos.ultimaChave(), tipo, mensagem);
 }

@@ -4,6 +4,7 @@
 #include "core/file/layout/LayoutRegistro.h"
 
 #include <QString>
+#include <QVariant>
 
 class CadastrosLeitura;
 class ComandosPreparados;
@@ -32,6 +33,11 @@ protected:
     virtual bool registro35(const RegistroLido& r) = 0;
     virtual bool registro36(const RegistroLido& r) = 0;
     virtual bool registro41(const RegistroLido& r) = 0;
+
+    // The key of the row the last statement inserted into `chave`; without one, `mensagem` and false.
+    bool novaChave(QVariant& chave, const QString& tipo, const QString& mensagem);
+    // The layout of a record of this reader's declaration type.
+    const LayoutRegistro& layout(int tipo) const { return LayoutRegistro::de(m_declaracao, tipo); }
 
     EstadoLeitura& m_estado;
     ComandosPreparados& m_comandos;

@@ -1,169 +1,145 @@
 #include "core/file/reading/ModGravaVrtIndividual.h"
 
 #include "core/file/reading/CadastrosLeitura.h"
-#include "core/file/reading/ComandosPreparados.h"
 #include "core/file/reading/EstadoLeitura.h"
+#include "core/file/reading/ExcecoesLeitura.h"
+#include "core/file/reading/InsercaoRegistro.h"
 #include "core/file/layout/RegistroLido.h"
+#include "core/store/ComandosPreparados.h"
+
+#include <QHash>
 
 namespace {
-QVariant tx(const QString& v)
+QString c(const char* t)
 {
-    return ComandosPreparados::texto(v);
+    return QString::fromLatin1(t);
 }
+const QString ItemNfs = c("ITEM_NFS");
 }  // namespace
+
+// The rows each record gives, with the keys and constants the reading adds in front of the layout's fields.
+struct ModGravaVrtIndividual::Insercoes {
+    explicit Insercoes(const ModGravaVrtIndividual& m)
+        : pe11(m.layout(11), c("ITEM_NFS_PE"), {c("ID_ITEM")}),
+          justificativa11(m.layout(11), c("JUST_DIF_ALIQ_PROD_VRT_IND"), {c("ID_ITEM")}),
+          nfa12(m.layout(12), c("ITEM_NFA_PE_IND"), {c("ID_ITEM")}),
+          di13(m.layout(13), c("ITEM_DI_PE_IND"), {c("ID_ITEM")}),
+          valores13(m.layout(13), c("ITEM_IMPORT_288_PE"), {c("ID_ITEM_DI")}),
+          dsi14(m.layout(14), c("ITEM_DSI_PE_IND"), {c("ID_ITEM")}),
+          ppb21(m.layout(21), c("ITEM_NFS_PI_COM_PPB"), {c("ID_ITEM"), c("CD_TIPO_COEF_REDUCAO")}),
+          dcre21(m.layout(21), c("DCRE"), {c("ID_ITEM")}, {c("QT_PRODUTO")}),
+          dcr21(m.layout(21), c("DCR"), {c("ID_ITEM")}),
+          semPpb31(m.layout(31), c("ITEM_NFS_PI_SEM_PPB"), {c("ID_ITEM")}),
+          insumo32(m.layout(32), c("INSUMO_ITEM_NFS"), {c("ID_ITEM")}),
+          justificativa33(m.layout(33), c("JUST_DIF_ALIQ_INS_VRT_IND"), {c("ID_INSUMO")}),
+          total33(m.layout(33), c("INSUMO_VRT_IND"), {c("ID_VRT_MICRO")}, {c("CD_INT_INSUMO")}),
+          nfa34(m.layout(34), c("ITEM_NFA_INS_IND"), {c("ID_INSUMO")}),
+          di35(m.layout(35), c("ITEM_DI_INS_IND"), {c("ID_INSUMO")}),
+          valores35(m.layout(35), c("ITEM_IMPORT_288_INS"), {c("ID_ITEM_DI")}),
+          dsi36(m.layout(36), c("ITEM_DSI_INS_IND"), {c("ID_INSUMO")}),
+          nacional41(m.layout(41), c("ITEM_NFS_100"), {c("ID_ITEM")})
+    {
+        for (int tipo : {11, 21, 31, 41})
+            itens.insert(tipo, std::make_shared<InsercaoRegistro>(m.layout(tipo), ItemNfs,
+                                                                   QStringList{c("ID_NFS"), c("IND_MOD_INTERNACAO")}));
+    }
+    // The invoice's item of records 11, 21, 31 and 41 (record 21 has no NCM: its item keeps it Null).
+    QHash<int, std::shared_ptr<InsercaoRegistro>> itens;
+    const InsercaoRegistro pe11, justificativa11, nfa12, di13, valores13, dsi14, ppb21, dcre21, dcr21, semPpb31,
+        insumo32, justificativa33, total33, nfa34, di35, valores35, dsi36, nacional41;
+};
 
 ModGravaVrtIndividual::ModGravaVrtIndividual(EstadoLeitura& estado, ComandosPreparados& comandos,
                                              CadastrosLeitura& cadastros)
-    : LeitorItens(TipoDeclaracao::Individual, estado, comandos, cadastros)
+    : LeitorItens(TipoDeclaracao::Individual, estado, comandos, cadastros),
+      m_insercoes(std::make_unique<Insercoes>(*this))
 {
 }
 
-bool ModGravaVrtIndividual::novoItem(const RegistroLido& r, const QString& ncm, const QString& modalidade,
-                                     const QString& mensagem)
+ModGravaVrtIndividual::~ModGravaVrtIndividual() = default;
+
+bool ModGravaVrtIndividual::registraProduto(const RegistroLido& r, const QString& tipo, bool confereNcm)
 {
-    m_comandos.executa("INSERT INTO ITEM_NFS (ID_NFS, NR_ITEM_NF_SAIDA, CD_INT_PROD, NM_INT_PROD, CD_NCM_PROD, "
-                       "IND_MOD_INTERNACAO, NM_UNID_MED_PROD) VALUES (?, ?, ?, ?, ?, ?, ?)",
-                       {m_estado.idNfs, tx(r.texto(QStringLiteral("NR_ITEM_NF_SAIDA"))), tx(r.aparado(QStringLiteral("CD_INT_PROD"))),
-                        tx(r.texto(QStringLiteral("NM_INT_PROD"))), ncm.isNull() ? QVariant() : tx(ncm), modalidade,
-                        tx(r.aparado(QStringLiteral("NM_UNID_MED_PROD")))});
-    return m_comandos.novaChave(m_estado.itemAtual, mensagem);
+    if (confereNcm && !m_cadastros.ExisteNcm(r.texto(c("CD_NCM_PROD"))))
+        return m_estado.erroRegistro(tipo, QStringLiteral("NCM não cadastrada"));
+    m_estado.nomeLido = r.texto(c("NM_INT_PROD"));
+    if (!m_cadastros.RegistraProduto(r.lido(c("CD_INT_PROD")), m_estado.nomeLido))
+        return m_estado.erroRegistro(tipo, c("Erro ao cadastrar o Produto"));
+    QString unidade = r.texto(c("NM_UNID_MED_PROD"));
+    if (!m_cadastros.RegistraUnidade(unidade))
+        return m_estado.erroRegistro(tipo, c("Erro ao cadastrar a Unidade de Medida"));
+    return true;
+}
+
+bool ModGravaVrtIndividual::novoItem(const RegistroLido& r, const QString& modalidade, const QString& mensagem)
+{
+    const int tipo = r.layout().tipo.toInt();
+    m_insercoes->itens.value(tipo)->executa(m_comandos, r, {m_estado.idNfs, modalidade});
+    return novaChave(m_estado.itemAtual, r.layout().tipo, mensagem);
 }
 
 bool ModGravaVrtIndividual::registro11(const RegistroLido& r)
 {
-    const QString ncm = r.texto(QStringLiteral("CD_NCM_PROD"));
-    if (!m_cadastros.ExisteNcm(ncm))
-        return m_estado.erroRegistro(QStringLiteral("11"), QStringLiteral("NCM não cadastrada"));
-    m_estado.nomeLido = r.texto(QStringLiteral("NM_INT_PROD"));
-    if (!m_cadastros.RegistraProduto(r.aparado(QStringLiteral("CD_INT_PROD")), m_estado.nomeLido))
-        return m_estado.erroRegistro(QStringLiteral("11"), QStringLiteral("Erro ao cadastrar o Produto"));
-    QString unidade = r.texto(QStringLiteral("NM_UNID_MED_PROD"));
-    if (!m_cadastros.RegistraUnidade(unidade))
-        return m_estado.erroRegistro(QStringLiteral("11"), QStringLiteral("Erro ao cadastrar a Unidade de Medida"));
-    if (!novoItem(r, ncm, QStringLiteral("1"), QStringLiteral("Problema de Gravação no Registro 11 da individual!")))
+    if (!registraProduto(r, c("11"), true))
         return false;
-    m_comandos.executa("INSERT INTO ITEM_NFS_PE (ID_ITEM, QT_INT_UNID_NFS, QT_INT_UNID_EST, VL_INT_UNID_NFS, "
-                       "VL_IPI_DESTACADO) VALUES (?, ?, ?, ?, ?)",
-                       {m_estado.itemAtual, tx(r.decimal(QStringLiteral("QT_INT_UNID_NFS"))), tx(r.decimal(QStringLiteral("QT_INT_UNID_EST"))),
-                        tx(r.decimal(QStringLiteral("VL_INT_UNID_NFS"))), tx(r.decimal(QStringLiteral("VL_IPI_DESTACADO")))});
-    // The test looks at positions 110-362 and 368-620, each of which spans an aliquot's digits: true for every
-    // record this system writes, false only for a file from elsewhere with blanks there. Kept as it stands.
-    const QString& linha = r.linha();
-    if (!RegistroLido::soBrancos(linha.mid(109, 253)) || !RegistroLido::soBrancos(linha.mid(367, 253))) {
-        const bool temII = !r.brancos(QStringLiteral("JUST_II_DIF_TEC"));
-        const bool temIPI = !r.brancos(QStringLiteral("JUST_IPI_DIF_TIPI"));
-        m_comandos.executa("INSERT INTO JUST_DIF_ALIQ_PROD_VRT_IND (ID_ITEM, JUST_II_DIF_TEC, ALIQ_II_DIF_TEC, "
-                           "JUST_IPI_DIF_TIPI, ALIQ_IPI_DIF_TIPI) VALUES (?, ?, ?, ?, ?)",
-                           {m_estado.itemAtual, tx(r.aparado(QStringLiteral("JUST_II_DIF_TEC"))),
-                            tx(temII ? r.decimal(QStringLiteral("ALIQ_II_DIF_TEC")) : QString()),
-                            tx(r.aparado(QStringLiteral("JUST_IPI_DIF_TIPI"))),
-                            tx(temIPI ? r.decimal(QStringLiteral("ALIQ_IPI_DIF_TIPI")) : QString())});
+    if (!novoItem(r, c("1"), QStringLiteral("Problema de Gravação no Registro 11 da individual!")))
+        return false;
+    const Insercoes& ins = *m_insercoes;
+    ins.pe11.executa(m_comandos, r, {m_estado.itemAtual});
+    if (ExcecoesLeitura::temJustificativaIndividual(r)) {
+        QVariantList v = ins.justificativa11.valores(r, {m_estado.itemAtual});
+        ExcecoesLeitura::aliquotaSoComJustificativa(r, ins.justificativa11, v);
+        ins.justificativa11.executa(m_comandos, v);
     }
     return true;
 }
 
 bool ModGravaVrtIndividual::registro12(const RegistroLido& r)
 {
-    m_comandos.executa(
-        "INSERT INTO ITEM_NFA_PE_IND (ID_ITEM, NR_CNPJ_FORNECEDOR, NR_SERIE_NF_AQUIS, NR_NF_AQUIS, NR_ITEM_NF_AQUIS, "
-        "DT_EMISS_NF_AQUIS, CD_CFOP_NF_AQUIS, IND_DL_288_67, IND_OBSOLE_RESIDUO, QT_PROD_UNID_NFS, "
-        "VL_INS_PROD_UNID_NFS, VL_TOT_PROD_INT) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
-        {m_estado.itemAtual, tx(r.texto(QStringLiteral("NR_CNPJ_FORNECEDOR"))), tx(r.texto(QStringLiteral("NR_SERIE_NF_AQUIS"))),
-         tx(r.texto(QStringLiteral("NR_NF_AQUIS"))), tx(r.texto(QStringLiteral("NR_ITEM_NF_AQUIS"))), tx(r.data(QStringLiteral("DT_EMISS_NF_AQUIS"))),
-         tx(r.semZerosEsquerda(QStringLiteral("CD_CFOP_NF_AQUIS"))), tx(r.texto(QStringLiteral("IND_DL_288_67"))),
-         tx(r.texto(QStringLiteral("IND_OBSOLE_RESIDUO"))), tx(r.decimal(QStringLiteral("QT_PROD_UNID_NFS"))),
-         tx(r.decimal(QStringLiteral("VL_INS_PROD_UNID_NFS"))), tx(r.decimal(QStringLiteral("VL_TOT_PROD_INT")))});
+    m_insercoes->nfa12.executa(m_comandos, r, {m_estado.itemAtual});
     return true;
 }
 
 bool ModGravaVrtIndividual::registro13(const RegistroLido& r)
 {
-    m_comandos.executa("INSERT INTO ITEM_DI_PE_IND (ID_ITEM, NR_DI, NR_DI_ANTIGA, NR_ADICAO_DI, NR_ITEM_ADICAO, "
-                       "IND_DL_288_67, IND_OBSOLE_RESIDUO, QT_PROD_UNID_NFS, IND_SUSP_PIS_COFINS) "
-                       "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)",
-                       {m_estado.itemAtual, tx(r.semZeros(QStringLiteral("NR_DI"))), tx(r.semZeros(QStringLiteral("NR_DI_ANTIGA"))),
-                        tx(r.texto(QStringLiteral("NR_ADICAO_DI"))), tx(r.texto(QStringLiteral("NR_ITEM_ADICAO"))),
-                        tx(r.texto(QStringLiteral("IND_DL_288_67"))), tx(r.texto(QStringLiteral("IND_OBSOLE_RESIDUO"))),
-                        tx(r.decimal(QStringLiteral("QT_PROD_UNID_NFS"))), tx(r.texto(QStringLiteral("IND_SUSP_PIS_COFINS")))});
+    m_insercoes->di13.executa(m_comandos, r, {m_estado.itemAtual});
     QVariant di;
-    if (!m_comandos.novaChave(di, QStringLiteral("ERRO NA RECUPERAÇÃO DO REGISTRO 13 DA INDIVIDUAL")))
+    if (!novaChave(di, c("13"), QStringLiteral("ERRO NA RECUPERAÇÃO DO REGISTRO 13 DA INDIVIDUAL")))
         return false;
-    m_comandos.executa("INSERT INTO ITEM_IMPORT_288_PE (ID_ITEM_DI, VL_INS_PROD_UNID_NFS, CD_MOEDA_NEG, "
-                       "VL_FRETE_UNID_NFS, CD_MOEDA_FRETE, VL_SEGURO_UNID_NFS, CD_MOEDA_SEGURO, VL_TOT_PROD_INT) "
-                       "VALUES (?, ?, ?, ?, ?, ?, ?, ?)",
-                       {di, tx(r.decimal(QStringLiteral("VL_INS_PROD_UNID_NFS"))), tx(r.semZeros(QStringLiteral("CD_MOEDA_NEG"))),
-                        tx(r.decimal(QStringLiteral("VL_FRETE_UNID_NFS"))), tx(r.semZeros(QStringLiteral("CD_MOEDA_FRETE"))),
-                        tx(r.decimal(QStringLiteral("VL_SEGURO_UNID_NFS"))), tx(r.semZeros(QStringLiteral("CD_MOEDA_SEGURO"))),
-                        tx(r.decimal(QStringLiteral("VL_TOT_PROD_INT")))});
+    m_insercoes->valores13.executa(m_comandos, r, {di});
     return true;
 }
 
 bool ModGravaVrtIndividual::registro14(const RegistroLido& r)
 {
-    m_comandos.executa(
-        "INSERT INTO ITEM_DSI_PE_IND (ID_ITEM, NR_DSI, NR_DSI_ANTIGA, NR_BEM, QT_PROD_UNID_NFS, VL_PROD_UNID_PROD, "
-        "CD_MOEDA_NEG, VL_FRETE_UNID_INT, CD_MOEDA_FRETE, VL_SEGURO_UNID_INT, CD_MOEDA_SEGURO, IND_SUSP_PIS_COFINS) "
-        "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
-        {m_estado.itemAtual, tx(r.texto(QStringLiteral("NR_DSI"))), tx(r.texto(QStringLiteral("NR_DSI_ANTIGA"))), tx(r.texto(QStringLiteral("NR_BEM"))),
-         tx(r.decimal(QStringLiteral("QT_PROD_UNID_NFS"))), tx(r.decimal(QStringLiteral("VL_PROD_UNID_PROD"))), tx(r.texto(QStringLiteral("CD_MOEDA_NEG"))),
-         tx(r.decimal(QStringLiteral("VL_FRETE_UNID_INT"))), tx(r.texto(QStringLiteral("CD_MOEDA_FRETE"))),
-         tx(r.decimal(QStringLiteral("VL_SEGURO_UNID_INT"))), tx(r.texto(QStringLiteral("CD_MOEDA_SEGURO"))),
-         tx(r.texto(QStringLiteral("IND_SUSP_PIS_COFINS")))});
+    m_insercoes->dsi14.executa(m_comandos, r, {m_estado.itemAtual});
     return true;
 }
 
 bool ModGravaVrtIndividual::registro21(const RegistroLido& r)
 {
-    m_estado.nomeLido = r.texto(QStringLiteral("NM_INT_PROD"));
-    if (!m_cadastros.RegistraProduto(r.aparado(QStringLiteral("CD_INT_PROD")), m_estado.nomeLido))
-        return m_estado.erroRegistro(QStringLiteral("21"), QStringLiteral("Erro ao cadastrar o Produto"));
-    QString unidade = r.texto(QStringLiteral("NM_UNID_MED_PROD"));
-    if (!m_cadastros.RegistraUnidade(unidade))
-        return m_estado.erroRegistro(QStringLiteral("21"), QStringLiteral("Erro ao cadastrar a Unidade de Medida"));
-    // The record has no NCM; its message on a missing key is record 41's, as the system has it.
-    if (!novoItem(r, QString(), QStringLiteral("2"), QStringLiteral("Problema de Gravação no Registro 41 da individual")))
+    if (!registraProduto(r, c("21"), false))
         return false;
-
-    QString tipo;
-    QString numero;
-    if (!r.zeros(QStringLiteral("NR_DCRE"))) {
-        tipo = QStringLiteral("1");
-        numero = r.semZerosEsquerda(QStringLiteral("NR_DCRE"));
-    }
-    if (!r.zeros(QStringLiteral("NR_DCR"))) {
-        tipo = QStringLiteral("2");
-        numero = r.semZerosEsquerda(QStringLiteral("NR_DCR"));
-    }
-    m_comandos.executa("INSERT INTO ITEM_NFS_PI_COM_PPB (ID_ITEM, CD_TIPO_COEF_REDUCAO, VL_PIS, VL_COFINS) "
-                       "VALUES (?, ?, ?, ?)",
-                       {m_estado.itemAtual, tx(tipo), tx(r.decimal(QStringLiteral("VL_PIS"))), tx(r.decimal(QStringLiteral("VL_COFINS")))});
-    if (tipo == QStringLiteral("1")) {
-        m_comandos.executa("INSERT INTO DCRE (ID_ITEM, NR_DCRE, QT_PRODUTO) VALUES (?, ?, ?)",
-                           {m_estado.itemAtual, tx(numero), tx(r.decimal(QStringLiteral("QT_PRODUTO")))});
-    } else if (tipo == QStringLiteral("2")) {
-        m_comandos.executa("INSERT INTO DCR (ID_ITEM, NR_DCR, PC_COEF_REDUCAO_II, QT_PRODUTO, VL_II_UNIT_DOLAR) "
-                           "VALUES (?, ?, ?, ?, ?)",
-                           {m_estado.itemAtual, tx(numero), tx(r.decimal(QStringLiteral("PC_COEF_REDUCAO_II"))),
-                            tx(r.decimal(QStringLiteral("QT_PRODUTO"))), tx(r.decimal(QStringLiteral("VL_II_UNIT_DOLAR")))});
-    }
+    // The record has no NCM; its message on a missing key is record 41's, as the system has it.
+    if (!novoItem(r, c("2"), QStringLiteral("Problema de Gravação no Registro 41 da individual")))
+        return false;
+    const Insercoes& ins = *m_insercoes;
+    const ExcecoesLeitura::NumeroPpb ppb = ExcecoesLeitura::numeroPpb(r);
+    ins.ppb21.executa(m_comandos, r, {m_estado.itemAtual, ppb.tipo});
+    if (ppb.tipo == c("1"))
+        ins.dcre21.executa(m_comandos, r, {m_estado.itemAtual});
+    else if (ppb.tipo == c("2"))
+        ins.dcr21.executa(m_comandos, r, {m_estado.itemAtual});
     return true;
 }
 
 bool ModGravaVrtIndividual::registro31(const RegistroLido& r)
 {
-    const QString ncm = r.texto(QStringLiteral("CD_NCM_PROD"));
-    if (!m_cadastros.ExisteNcm(ncm))
-        return m_estado.erroRegistro(QStringLiteral("31"), QStringLiteral("NCM não cadastrada"));
-    m_estado.nomeLido = r.texto(QStringLiteral("NM_INT_PROD"));
-    if (!m_cadastros.RegistraProduto(r.aparado(QStringLiteral("CD_INT_PROD")), m_estado.nomeLido))
-        return m_estado.erroRegistro(QStringLiteral("31"), QStringLiteral("Erro ao cadastrar o Produto"));
-    QString unidade = r.texto(QStringLiteral("NM_UNID_MED_PROD"));
-    if (!m_cadastros.RegistraUnidade(unidade))
-        return m_estado.erroRegistro(QStringLiteral("31"), QStringLiteral("Erro ao cadastrar a Unidade de Medida"));
-    if (!novoItem(r, ncm, QStringLiteral("3"), QStringLiteral("Problema de Gravação no Registro 31 da individual")))
+    if (!registraProduto(r, c("31"), true))
         return false;
-    m_comandos.executa("INSERT INTO ITEM_NFS_PI_SEM_PPB (ID_ITEM, QT_INT_UNID_NFS, VL_INT_UNID_NFS) VALUES (?, ?, ?)",
-                       {m_estado.itemAtual, tx(r.decimal(QStringLiteral("QT_INT_UNID_NFS"))), tx(r.decimal(QStringLiteral("VL_INT_UNID_NFS")))});
+    if (!novoItem(r, c("3"), QStringLiteral("Problema de Gravação no Registro 31 da individual")))
+        return false;
+    m_insercoes->semPpb31.executa(m_comandos, r, {m_estado.itemAtual});
     return true;
 }
 
@@ -171,41 +147,33 @@ bool ModGravaVrtIndividual::registro32(const RegistroLido& r)
 {
     // The product is registered under the name read last: from the second input on that is the previous
     // input's name, written over the product's. This is how the system behaves.
-    if (!m_cadastros.RegistraProduto(r.aparado(QStringLiteral("CD_INT_PROD")), m_estado.nomeLido))
-        return m_estado.erroRegistro(QStringLiteral("32"), QStringLiteral("Insumo não cadastrado"));
-    const QString codigo = r.aparado(QStringLiteral("CD_INT_INSUMO"));
-    const QString nome = r.texto(QStringLiteral("NM_INT_INSUMO"));
+    if (!m_cadastros.RegistraProduto(r.lido(c("CD_INT_PROD")), m_estado.nomeLido))
+        return m_estado.erroRegistro(c("32"), QStringLiteral("Insumo não cadastrado"));
+    const QString codigo = r.lido(c("CD_INT_INSUMO"));
+    const QString nome = r.texto(c("NM_INT_INSUMO"));
     m_estado.nomeLido = nome;
     if (!m_cadastros.RegistraProduto(codigo, nome))
-        return m_estado.erroRegistro(QStringLiteral("32"), QStringLiteral("Erro ao cadastrar o Insumo"));
-    const QString ncm = r.texto(QStringLiteral("CD_NCM_INSUMO"));
-    if (!m_cadastros.ExisteNcm(ncm))
-        return m_estado.erroRegistro(QStringLiteral("32"), QStringLiteral("NCM não cadastrada"));
-    m_comandos.executa("INSERT INTO INSUMO_ITEM_NFS (ID_ITEM, CD_INT_INSUMO, NM_INT_INSUMO, CD_NCM_INSUMO, "
-                       "QT_INSUMO_POR_PROD, NM_UNID_MED_INSUMO) VALUES (?, ?, ?, ?, ?, ?)",
-                       {m_estado.itemAtual, tx(codigo), tx(nome), tx(ncm), tx(r.decimal(QStringLiteral("QT_INSUMO_POR_PROD"))),
-                        tx(r.aparado(QStringLiteral("NM_UNID_MED_INSUMO")))});
-    return m_comandos.novaChave(m_estado.insumoAtual, QStringLiteral("Problema de Gravação no Registro 32 da individual"));
+        return m_estado.erroRegistro(c("32"), c("Erro ao cadastrar o Insumo"));
+    if (!m_cadastros.ExisteNcm(r.texto(c("CD_NCM_INSUMO"))))
+        return m_estado.erroRegistro(c("32"), QStringLiteral("NCM não cadastrada"));
+    m_insercoes->insumo32.executa(m_comandos, r, {m_estado.itemAtual});
+    return novaChave(m_estado.insumoAtual, c("32"), QStringLiteral("Problema de Gravação no Registro 32 da individual"));
 }
 
 bool ModGravaVrtIndividual::registro33(const RegistroLido& r)
 {
-    const QString codigo = r.aparado(QStringLiteral("CD_INT_INSUMO"));
+    const QString codigo = r.lido(c("CD_INT_INSUMO"));
     if (!m_cadastros.RegistraProduto(codigo, m_estado.nomeLido))
-        return m_estado.erroRegistro(QStringLiteral("33"), QStringLiteral("Insumo não cadastrado"));
-    const bool temII = !r.brancos(QStringLiteral("JUST_II_DIF_TEC"));
-    const bool temIPI = !r.brancos(QStringLiteral("JUST_IPI_DIF_TIPI"));
-    if (temII || temIPI) {
-        m_comandos.executa("INSERT INTO JUST_DIF_ALIQ_INS_VRT_IND (ID_INSUMO, JUST_II_DIF_TEC, ALIQ_II_DIF_TEC, "
-                           "JUST_IPI_DIF_TIPI, ALIQ_IPI_DIF_TIPI) VALUES (?, ?, ?, ?, ?)",
-                           {m_estado.insumoAtual, tx(r.aparado(QStringLiteral("JUST_II_DIF_TEC"))),
-                            tx(temII ? r.decimal(QStringLiteral("ALIQ_II_DIF_TEC")) : QString()),
-                            tx(r.aparado(QStringLiteral("JUST_IPI_DIF_TIPI"))),
-                            tx(temIPI ? r.decimal(QStringLiteral("ALIQ_IPI_DIF_TIPI")) : QString())});
+        return m_estado.erroRegistro(c("33"), QStringLiteral("Insumo não cadastrado"));
+    const Insercoes& ins = *m_insercoes;
+    // Unlike the monthly reader, a row only when a justification is there.
+    if (!r.brancos(c("JUST_II_DIF_TEC")) || !r.brancos(c("JUST_IPI_DIF_TIPI"))) {
+        QVariantList v = ins.justificativa33.valores(r, {m_estado.insumoAtual});
+        ExcecoesLeitura::aliquotaSoComJustificativa(r, ins.justificativa33, v);
+        ins.justificativa33.executa(m_comandos, v);
     }
-    if (!r.zeros(QStringLiteral("QT_TOT_INS")) && !m_estado.insumosComTotal.contains(codigo)) {
-        m_comandos.executa("INSERT INTO INSUMO_VRT_IND (ID_VRT_MICRO, CD_INT_INSUMO, QT_TOT_INS) VALUES (?, ?, ?)",
-                           {m_estado.IdVrtLida, tx(codigo), tx(r.decimal(QStringLiteral("QT_TOT_INS")))});
+    if (!r.zeros(c("QT_TOT_INS")) && !m_estado.insumosComTotal.contains(codigo)) {
+        ins.total33.executa(m_comandos, r, {m_estado.IdVrtLida});
         m_estado.insumosComTotal.insert(codigo);
     }
     return true;
@@ -213,68 +181,32 @@ bool ModGravaVrtIndividual::registro33(const RegistroLido& r)
 
 bool ModGravaVrtIndividual::registro34(const RegistroLido& r)
 {
-    m_comandos.executa(
-        "INSERT INTO ITEM_NFA_INS_IND (ID_INSUMO, NR_NF_AQUIS, NR_SERIE_NF_AQUIS, NR_ITEM_NF_AQUIS, DT_EMISS_NF_AQUIS, "
-        "CD_CFOP_NF_AQUIS, NR_CNPJ_FORNECEDOR, IND_DL_288_67, VL_INS_PROD_UNID_NFS, QT_INSUMO_UNID_NFS) "
-        "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
-        {m_estado.insumoAtual, tx(r.texto(QStringLiteral("NR_NF_AQUIS"))), tx(r.texto(QStringLiteral("NR_SERIE_NF_AQUIS"))),
-         tx(r.texto(QStringLiteral("NR_ITEM_NF_AQUIS"))), tx(r.data(QStringLiteral("DT_EMISS_NF_AQUIS"))),
-         tx(r.semZerosEsquerda(QStringLiteral("CD_CFOP_NF_AQUIS"))), tx(r.texto(QStringLiteral("NR_CNPJ_FORNECEDOR"))),
-         tx(r.texto(QStringLiteral("IND_DL_288_67"))), tx(r.decimal(QStringLiteral("VL_INS_PROD_UNID_NFS"))),
-         tx(r.decimal(QStringLiteral("QT_INSUMO_UNID_NFS")))});
+    m_insercoes->nfa34.executa(m_comandos, r, {m_estado.insumoAtual});
     return true;
 }
 
 bool ModGravaVrtIndividual::registro35(const RegistroLido& r)
 {
-    m_comandos.executa("INSERT INTO ITEM_DI_INS_IND (ID_INSUMO, NR_DI, NR_ADICAO_DI, NR_ITEM_ADICAO, NR_DI_ANTIGA, "
-                       "IND_DL_288_67, IND_SUSP_PIS_COFINS, QT_INSUMO_UNID_NFS) VALUES (?, ?, ?, ?, ?, ?, ?, ?)",
-                       {m_estado.insumoAtual, tx(r.texto(QStringLiteral("NR_DI"))), tx(r.texto(QStringLiteral("NR_ADICAO_DI"))),
-                        tx(r.texto(QStringLiteral("NR_ITEM_ADICAO"))), tx(r.texto(QStringLiteral("NR_DI_ANTIGA"))),
-                        tx(r.texto(QStringLiteral("IND_DL_288_67"))), tx(r.texto(QStringLiteral("IND_SUSP_PIS_COFINS"))),
-                        tx(r.decimal(QStringLiteral("QT_INSUMO_UNID_NFS")))});
+    m_insercoes->di35.executa(m_comandos, r, {m_estado.insumoAtual});
     QVariant di;
-    if (!m_comandos.novaChave(di, QStringLiteral("ERRO NA RECUPERAÇÃO DO REGISTRO 35 DA INDIVIDUAL")))
+    if (!novaChave(di, c("35"), QStringLiteral("ERRO NA RECUPERAÇÃO DO REGISTRO 35 DA INDIVIDUAL")))
         return false;
-    m_comandos.executa("INSERT INTO ITEM_IMPORT_288_INS (ID_ITEM_DI, VL_INS_PROD_UNID_NFS, CD_MOEDA_NEG, "
-                       "VL_FRETE_UNID_NFS, CD_MOEDA_FRETE, VL_SEGURO_UNID_NFS, CD_MOEDA_SEGURO) "
-                       "VALUES (?, ?, ?, ?, ?, ?, ?)",
-                       {di, tx(r.decimal(QStringLiteral("VL_INS_PROD_UNID_NFS"))), tx(r.texto(QStringLiteral("CD_MOEDA_NEG"))),
-                        tx(r.decimal(QStringLiteral("VL_FRETE_UNID_NFS"))), tx(r.texto(QStringLiteral("CD_MOEDA_FRETE"))),
-                        tx(r.decimal(QStringLiteral("VL_SEGURO_UNID_NFS"))), tx(r.texto(QStringLiteral("CD_MOEDA_SEGURO")))});
+    m_insercoes->valores35.executa(m_comandos, r, {di});
     return true;
 }
 
 bool ModGravaVrtIndividual::registro36(const RegistroLido& r)
 {
-    m_comandos.executa(
-        "INSERT INTO ITEM_DSI_INS_IND (ID_INSUMO, NR_DSI, NR_BEM, NR_DSI_ANTIGA, IND_SUSP_PIS_COFINS, "
-        "VL_INS_UNID_PROD, CD_MOEDA_NEG, VL_FRETE_UNID_INT, CD_MOEDA_FRETE, VL_SEGURO_UNID_INT, CD_MOEDA_SEGURO, "
-        "QT_INSUMO_UNID_NFS) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
-        {m_estado.insumoAtual, tx(r.texto(QStringLiteral("NR_DSI"))), tx(r.texto(QStringLiteral("NR_BEM"))), tx(r.texto(QStringLiteral("NR_DSI_ANTIGA"))),
-         tx(r.texto(QStringLiteral("IND_SUSP_PIS_COFINS"))), tx(r.decimal(QStringLiteral("VL_INS_UNID_PROD"))), tx(r.texto(QStringLiteral("CD_MOEDA_NEG"))),
-         tx(r.decimal(QStringLiteral("VL_FRETE_UNID_INT"))), tx(r.texto(QStringLiteral("CD_MOEDA_FRETE"))),
-         tx(r.decimal(QStringLiteral("VL_SEGURO_UNID_INT"))), tx(r.texto(QStringLiteral("CD_MOEDA_SEGURO"))),
-         tx(r.decimal(QStringLiteral("QT_INSUMO_UNID_NFS")))});
+    m_insercoes->dsi36.executa(m_comandos, r, {m_estado.insumoAtual});
     return true;
 }
 
 bool ModGravaVrtIndividual::registro41(const RegistroLido& r)
 {
-    const QString ncm = r.texto(QStringLiteral("CD_NCM_PROD"));
-    if (!m_cadastros.ExisteNcm(ncm))
-        return m_estado.erroRegistro(QStringLiteral("41"), QStringLiteral("NCM não cadastrada"));
-    m_estado.nomeLido = r.texto(QStringLiteral("NM_INT_PROD"));
-    if (!m_cadastros.RegistraProduto(r.aparado(QStringLiteral("CD_INT_PROD")), m_estado.nomeLido))
-        return m_estado.erroRegistro(QStringLiteral("41"), QStringLiteral("Erro ao cadastrar o Produto"));
-    QString unidade = r.texto(QStringLiteral("NM_UNID_MED_PROD"));
-    if (!m_cadastros.RegistraUnidade(unidade))
-        return m_estado.erroRegistro(QStringLiteral("41"), QStringLiteral("Erro ao cadastrar a Unidade de Medida"));
-    if (!novoItem(r, ncm, QStringLiteral("4"), QStringLiteral("Problema de Gravação no Registro 41 da individual")))
+    if (!registraProduto(r, c("41"), true))
         return false;
-    m_comandos.executa("INSERT INTO ITEM_NFS_100 (ID_ITEM, QT_INT_UNID_NFS, QT_INT_UNID_EST, VL_INT_UNID_NFS) "
-                       "VALUES (?, ?, ?, ?)",
-                       {m_estado.itemAtual, tx(r.decimal(QStringLiteral("QT_INT_UNID_NFS"))), tx(r.decimal(QStringLiteral("QT_INT_UNID_EST"))),
-                        tx(r.decimal(QStringLiteral("VL_INT_UNID_NFS")))});
+    if (!novoItem(r, c("4"), QStringLiteral("Problema de Gravação no Registro 41 da individual")))
+        return false;
+    m_insercoes->nacional41.executa(m_comandos, r, {m_estado.itemAtual});
     return true;
 }

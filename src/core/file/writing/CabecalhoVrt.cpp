@@ -76,8 +76,8 @@ bool CabecalhoVrt::carrega(const QString& id)
 
 void CabecalhoVrt::carregaValoresMandado()
 {
-    indicadoresMandado = QVector<QString>(35, QStringLiteral("N"));
-    valoresMandado = QVector<QString>(35, QString(SlotsValores::TamanhoValor, u'0'));
+    indicadoresMandado = QVector<QString>(SlotsValores::QuantidadeMandado, QStringLiteral("N"));
+    valoresMandado = QVector<QString>(SlotsValores::QuantidadeMandado, QString(SlotsValores::TamanhoValor, u'0'));
     QSqlQuery rs(ConexaoBanco());
     AbreConsulta(rs,
                  QStringLiteral("SELECT CD_MOD_MANDADO, CD_TIPO_DIVER_MANDADO, VL_TOTAL_DIVER_MANDADO "
@@ -95,7 +95,7 @@ void CabecalhoVrt::carregaValoresMandado()
 
 void CabecalhoVrt::carregaValoresRetif()
 {
-    valoresRetif = QVector<QString>(33, QString(SlotsValores::TamanhoValor, u'0'));
+    valoresRetif = QVector<QString>(SlotsValores::QuantidadeRetif, QString(SlotsValores::TamanhoValor, u'0'));
     QSqlQuery rs(ConexaoBanco());
     AbreConsulta(rs,
                  QStringLiteral("SELECT CD_MOD_RETIF, CD_TIPO_DIVER_RETIF, VL_TOTAL_DIVER_RETIF "
@@ -195,7 +195,7 @@ void CabecalhoVrt::escreve(SaidaVrt& saida, const QString& origem) const
 
     LinhaRegistro r02(LayoutRegistro::de(t, QStringLiteral("02")));
     r02.poe(QStringLiteral("IND_MANDADO_JUDIC"), indMandadoJudic);
-    for (int k = 0; k < 35; ++k) {
+    for (int k = 0; k < SlotsValores::QuantidadeMandado; ++k) {
         const QString n = QStringLiteral("%1").arg(k + 1, 2, 10, QLatin1Char('0'));
         r02.poe(QStringLiteral("IND_MANDADO_") + n, indicadoresMandado.at(k));
         r02.poe(QStringLiteral("VL_MANDADO_") + n, valoresMandado.at(k));
@@ -205,7 +205,7 @@ void CabecalhoVrt::escreve(SaidaVrt& saida, const QString& origem) const
     LinhaRegistro r03(LayoutRegistro::de(t, QStringLiteral("03")));
     r03.poe(QStringLiteral("NR_VRT"), nrVrt);
     r03.poe(QStringLiteral("NR_PROC_ADM_FISCAL"), nrProcAdmFiscal);
-    for (int k = 0; k < 33; ++k)
+    for (int k = 0; k < SlotsValores::QuantidadeRetif; ++k)
         r03.poe(QStringLiteral("VL_RETIF_%1").arg(k + 1, 2, 10, QLatin1Char('0')), valoresRetif.at(k));
     saida.escreve(r03);
 }

@@ -22,8 +22,7 @@ private:
     BancoTeste* m_banco = nullptr;
     bool le(const QStringList& linhas)
     {
-        grava(m_banco->pasta() + t("/arquivo"), bytes(linhas));
-        return LeArquivoVrtEm(m_banco->pasta(), t("arquivo"));
+        return leDaMemoria(bytes(linhas));
     }
     // The first declaration: December 2008, two products.
     void primeiraDeclaracao()

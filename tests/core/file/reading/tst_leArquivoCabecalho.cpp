@@ -12,16 +12,9 @@ class TstLeArquivoCabecalho : public QObject {
     Q_OBJECT
 
 private:
-    QString arquivo(const QByteArray& conteudo)
-    {
-        const QString caminho = m_banco->pasta() + QStringLiteral("/0000126");
-        grava(caminho, conteudo);
-        return caminho;
-    }
     bool le(const QByteArray& conteudo, ModoLeitura modo = ModoLeitura::Importar)
     {
-        arquivo(conteudo);
-        return LeArquivoVrtEm(m_banco->pasta(), QStringLiteral("0000126"), modo);
+        return leDaMemoria(conteudo, modo);
     }
     BancoTeste* m_banco = nullptr;
 
@@ -312,8 +305,9 @@ private slots:
     {
         MensagensRoteiro msgs;
         msgs.responde(Msg::OK);
-        arquivo(bytes(cabecalhoMensal()));
-        LeArquivoVrt leitura(m_banco->pasta(), QStringLiteral("0000126"));
+        QBuffer arquivo;
+        arquivo.setData(bytes(cabecalhoMensal()));
+        LeArquivoVrt leitura(arquivo);
         QList<QPair<qint64, qint64>> avisos;
         leitura.defineProgresso([&](qint64 lidas, qint64 total) { avisos.append({lidas, total}); });
         QVERIFY(leitura.executa());

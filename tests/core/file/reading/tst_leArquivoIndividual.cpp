@@ -80,8 +80,7 @@ private:
     BancoTeste* m_banco = nullptr;
     bool le(const QStringList& itens)
     {
-        grava(m_banco->pasta() + t("/arquivo"), bytes(cabecalhoIndividual() + itens));
-        return LeArquivoVrtEm(m_banco->pasta(), t("arquivo"));
+        return leDaMemoria(bytes(cabecalhoIndividual() + itens));
     }
 
 private slots:

@@ -1,16 +1,15 @@
-#include "core/file/reading/ComandosPreparados.h"
+#include "core/store/ComandosPreparados.h"
 
-#include "core/session/MsgBox.h"
 #include "core/store/modBancoDados.h"
 
 #include <QVector>
 
-ComandosPreparados::ComandosPreparados() = default;
+ComandosPreparados::ComandosPreparados(AntesDeFalhar antes) : m_antes(antes) {}
 
 ComandosPreparados::~ComandosPreparados()
 {
-    for (auto& par : m_consultas)
-        par.second->finish();
+    for (auto& q : m_consultas)
+        q->finish();
 }
 
 QVariant ComandosPreparados::texto(const QString& valor)
@@ -31,9 +30,8 @@ const QString& nomeDaPosicao(int i)
 }
 
 // The statement with each "?" outside quotes replaced by the name of its position.
-QString comNomes(const char* sql)
+QString comNomes(const QString& texto)
 {
-    const QString texto = QString::fromUtf8(sql);
     QString r;
     r.reserve(texto.size() + 16);
     bool aspas = false;
@@ -50,17 +48,25 @@ QString comNomes(const char* sql)
 }
 }  // namespace
 
-QSqlQuery& ComandosPreparados::roda(const char* sql, const QVariantList& valores)
+void ComandosPreparados::falha(const QSqlQuery& q)
+{
+    const QSqlError erro = q.lastError();
+    if (m_antes == AntesDeFalhar::DesfazTransacao)
+        modBancoDados::DesfazTransacao();
+    modBancoDados::BDTrataErro(erro);
+}
+
+QSqlQuery& ComandosPreparados::roda(const QString& sql, const QVariantList& valores)
 {
     auto it = m_consultas.find(sql);
     if (it == m_consultas.end()) {
-        auto q = std::make_unique<QSqlQuery>(modBancoDados::ConexaoBanco());
+        auto q = std::make_shared<QSqlQuery>(modBancoDados::ConexaoBanco());
         q->setForwardOnly(true);
         if (!q->prepare(comNomes(sql)))
-            modBancoDados::BDTrataErro(q->lastError());
-        it = m_consultas.emplace(sql, std::move(q)).first;
+            falha(*q);
+        it = m_consultas.insert(sql, std::move(q));
     }
-    QSqlQuery& q = *it->second;
+    QSqlQuery& q = **it;
     for (int i = 0; i < valores.size(); ++i) {
         const QVariant& v = valores.at(i);
         // A null QString would be bound as NULL; the reader stores empty fields as empty texts.
@@ -70,27 +76,18 @@ QSqlQuery& ComandosPreparados::roda(const char* sql, const QVariantList& valores
             q.bindValue(nomeDaPosicao(i), v);
     }
     if (!q.exec())
-        modBancoDados::BDTrataErro(q.lastError());
+        falha(q);
     return q;
 }
 
-void ComandosPreparados::executa(const char* sql, const QVariantList& valores)
+void ComandosPreparados::executa(const QString& sql, const QVariantList& valores)
 {
     QSqlQuery& q = roda(sql, valores);
     m_ultimaChave = q.lastInsertId();
     q.finish();
 }
 
-bool ComandosPreparados::novaChave(QVariant& chave, const QString& mensagem)
-{
-    chave = m_ultimaChave;
-    if (chave.isValid() && !chave.isNull())
-        return true;
-    MsgBox(mensagem, Msg::Critical);
-    return false;
-}
-
-QVariant ComandosPreparados::valor(const char* sql, const QVariantList& valores)
+QVariant ComandosPreparados::valor(const QString& sql, const QVariantList& valores)
 {
     QSqlQuery& q = roda(sql, valores);
     QVariant v = q.next() ? q.value(0) : QVariant();
@@ -98,7 +95,7 @@ QVariant ComandosPreparados::valor(const char* sql, const QVariantList& valores)
     return v;
 }
 
-bool ComandosPreparados::existe(const char* sql, const QVariantList& valores)
+bool ComandosPreparados::existe(const QString& sql, const QVariantList& valores)
 {
     QSqlQuery& q = roda(sql, valores);
     const bool achou = q.next();

@@ -1,0 +1,66 @@
+#include "core/file/reading/InsercaoRegistro.h"
+
+#include "core/file/layout/LayoutRegistro.h"
+#include "core/file/layout/RegistroLido.h"
+#include "core/store/ComandosPreparados.h"
+
+#include <QtGlobal>
+
+InsercaoRegistro::InsercaoRegistro(const LayoutRegistro& layout, const QString& tabela,
+                                   const QStringList& colunasAntes, const QStringList& camposDeFora)
+    : m_layout(layout), m_antes(int(colunasAntes.size())), m_colunas(colunasAntes)
+{
+    for (int i = 0; i < layout.campos.size(); ++i) {
+        const CampoLayout& c = layout.campos.at(i);
+        if (c.coluna.isEmpty() || c.tipo == TipoCampo::K)
+            continue;
+        if (c.tabelaDe(layout.tabela) != tabela && !camposDeFora.contains(c.nome))
+            continue;
+        m_campos.append(i);
+        m_colunas.append(c.coluna);
+    }
+    if (m_campos.size() == 0 && m_antes == 0)
+        qFatal("Registro %s sem campos da tabela %s", qPrintable(layout.tipo), qPrintable(tabela));
+    m_sql = monta(tabela, m_colunas);
+}
+
+QString InsercaoRegistro::monta(const QString& tabela, const QStringList& colunas)
+{
+    QStringList marcas;
+    for (int i = 0; i < colunas.size(); ++i)
+        marcas << QStringLiteral("?");
+    return QStringLiteral("INSERT INTO ") + tabela + QStringLiteral(" (") + colunas.join(QStringLiteral(", ")) +
+           QStringLiteral(") VALUES (") + marcas.join(QStringLiteral(", ")) + QLatin1Char(')');
+}
+
+QVariantList InsercaoRegistro::valores(const RegistroLido& registro, const QVariantList& antes) const
+{
+    Q_ASSERT(antes.size() == m_antes);
+    QVariantList v;
+    v.reserve(m_colunas.size());
+    v.append(antes);
+    for (int i : m_campos)
+        v.append(registro.lido(m_layout.campos.at(i)));
+    return v;
+}
+
+int InsercaoRegistro::posicao(const QString& campo) const
+{
+    for (int k = 0; k < m_campos.size(); ++k) {
+        if (m_layout.campos.at(m_campos.at(k)).nome == campo)
+            return m_antes + k;
+    }
+    qFatal("Registro %s: o campo %s não vai para esta tabela", qPrintable(m_layout.tipo), qPrintable(campo));
+    return -1;
+}
+
+void InsercaoRegistro::executa(ComandosPreparados& comandos, const QVariantList& valores) const
+{
+    comandos.executa(m_sql, valores);
+}
+
+void InsercaoRegistro::executa(ComandosPreparados& comandos, const RegistroLido& registro,
+                               const QVariantList& antes) const
+{
+    comandos.executa(m_sql, valores(registro, antes));
+}
