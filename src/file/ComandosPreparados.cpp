@@ -69,8 +69,12 @@ QSqlQuery& ComandosPreparados::roda(const char* sql, const QVariantList& valores
         else
             q.bindValue(nomeDaPosicao(i), v);
     }
-    if (!q.exec())
-        modBancoDados::BDTrataErro(q.lastError());
+    if (!q.exec()) {
+        const QSqlError erro = q.lastError();
+        if (modBancoDados::BancoOcupado(erro))
+            modBancoDados::BDTrataErro(erro);
+        throw ComandoRecusado{erro};
+    }
     return q;
 }
 

@@ -1,12 +1,20 @@
 #pragma once
 // The statements of a long operation, each prepared once on first use and kept for the whole run: a file of
 // a hundred thousand records runs the same dozen statements over and over, and preparing them per row would
-// cost more than running them. Values are always bound; a failed statement ends the run through BDTrataErro.
+// cost more than running them. Values are always bound. A statement that the database refuses (a row whose
+// parent is missing, a value too wide) throws ComandoRecusado, for the reader to refuse the file inside its
+// transaction; a database held by another process, or a statement that cannot be prepared, ends the run
+// through BDTrataErro.
+#include <QSqlError>
 #include <QSqlQuery>
 #include <QVariant>
 #include <QVariantList>
 #include <memory>
 #include <unordered_map>
+
+struct ComandoRecusado {
+    QSqlError erro;
+};
 
 class ComandosPreparados {
 public:

@@ -68,7 +68,7 @@ bool LeArquivoVrt::executa()
         // One transaction for the whole file: a failure anywhere rolls back everything, the number taken and
         // the deletion of a replaced declaration included.
         modBancoDados::Transacao transacao;
-        concluida = leLinhas(linhas);
+        concluida = leLinhasOuRecusa(linhas);
         if (concluida) {
             transacao.confirma();
             m_resultado.ProdutosCadastrados = cadastros.ProdutosCadastrados;
@@ -106,6 +106,20 @@ QString LeArquivoVrt::relatorio(const ResultadoLeitura& r)
         texto += s("- ") + QString::number(r.UnidadesCadastradas) + s(" unidades de medida cadastradas.") + cr;
     texto += cr + s("O arquivo foi importado com sucesso! ") + cr + s("Número de identificação: ") + r.IdVrtLida;
     return texto;
+}
+
+bool LeArquivoVrt::leLinhasOuRecusa(LinhasArquivo& linhas)
+{
+    try {
+        return leLinhas(linhas);
+    } catch (const ComandoRecusado&) {
+        // A line whose row the database refuses (a record 12 before any record 11 has no parent key) is a bad
+        // line like any other: the file is refused at it and the transaction rolled back.
+        MsgBox(s("Erro no ") + QString::number(m_estado.ContaLinhas) + s("º registro (registro ") + m_tipoAtual +
+                   s(") - Registro não aceito pelo banco de dados!"),
+               Msg::Critical);
+        return false;
+    }
 }
 
 bool LeArquivoVrt::leLinhas(LinhasArquivo& linhas)
@@ -146,6 +160,7 @@ bool LeArquivoVrt::registro00(LinhasArquivo& linhas)
 {
     const QString linha = linhas.proxima();
     ++m_estado.ContaLinhas;
+    m_tipoAtual = linha.left(2);
     if (linha.size() != 61)
         return erroCabecalho(s("Erro no registro 00 - Tamanho inválido!"));
     if (linha.left(2) != s("00"))
@@ -224,6 +239,7 @@ bool LeArquivoVrt::registro01(LinhasArquivo& linhas)
         return erroCabecalho(s("Erro no arquivo - Não foi localizado o registro 01!"));
     const QString linha = linhas.proxima();
     ++m_estado.ContaLinhas;
+    m_tipoAtual = linha.left(2);
     if (linha.size() != 113)
         return erroCabecalho(s("Erro no registro 01 - Tamanho inválido!"));
     if (linha.left(2) != s("01"))
@@ -269,6 +285,7 @@ bool LeArquivoVrt::registro02(LinhasArquivo& linhas)
         return erroCabecalho(s("Erro no arquivo - Não foi localizado o registro 02!"));
     const QString linha = linhas.proxima();
     ++m_estado.ContaLinhas;
+    m_tipoAtual = linha.left(2);
     if (linha.size() != 563)
         return erroCabecalho(s("Erro no registro 02 - Tamanho inválido!"));
     if (linha.left(2) != s("02"))
@@ -288,6 +305,7 @@ bool LeArquivoVrt::registro03(LinhasArquivo& linhas)
         return erroCabecalho(s("Erro no arquivo - Não foi localizado o registro 03!"));
     const QString linha = linhas.proxima();
     ++m_estado.ContaLinhas;
+    m_tipoAtual = linha.left(2);
     if (linha.size() != 524)
         return erroCabecalho(s("Erro no registro 03 - Tamanho inválido!"));
     if (linha.left(2) != s("03"))
@@ -348,6 +366,7 @@ bool LeArquivoVrt::leItens(LinhasArquivo& linhas)
     while (!linhas.fim()) {
         QString linha = linhas.proxima();
         ++m_estado.ContaLinhas;
+        m_tipoAtual = linha.left(2);
         avisaProgresso(m_estado.ContaLinhas, linhas.total());
         const QString tipo = linha.left(2);
         if (!tiposItens.contains(tipo)) {

@@ -46,6 +46,7 @@ public:
     static QString relatorio(const ResultadoLeitura& r);
 
 private:
+    bool leLinhasOuRecusa(LinhasArquivo& linhas);
     bool leLinhas(LinhasArquivo& linhas);
     bool registro00(LinhasArquivo& linhas);
     bool registro01(LinhasArquivo& linhas);
@@ -63,6 +64,7 @@ private:
     ProgressoLeitura m_progresso;
     int m_ultimoPercentual = -1;
     ResultadoLeitura m_resultado;
+    QString m_tipoAtual;  // record type of the line being read, for the refusal of a line the database refuses
     EstadoLeitura m_estado;
     ComandosPreparados* m_comandos = nullptr;
     CadastrosLeitura* m_cadastros = nullptr;
