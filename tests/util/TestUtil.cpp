@@ -88,3 +88,11 @@ void BancoTeste::executa(const QString& sql, const QVariantList& valores)
 {
     modBancoDados::ExecutaSql(sql, valores);
 }
+
+void DigitaTexto(QWidget* campo, const QString& texto)
+{
+    for (const QChar c : texto) {
+        QTest::sendKeyEvent(QTest::Press, campo, Qt::Key_unknown, QString(c), Qt::NoModifier);
+        QTest::sendKeyEvent(QTest::Release, campo, Qt::Key_unknown, QString(c), Qt::NoModifier);
+    }
+}

@@ -54,6 +54,11 @@ private:
     modBancoDados::Encerramento m_fimAnterior;
 };
 
+class QWidget;
+// Types a text key by key, each key event carrying its character, beyond Latin-1 too (QTest::keyClicks knows
+// Latin-1 only).
+void DigitaTexto(QWidget* campo, const QString& texto);
+
 // Runs a block that must end the run through BDTrataErro; gives the error number, or an empty text if it did not.
 template <typename F>
 QString numeroDoFim(F&& bloco)
