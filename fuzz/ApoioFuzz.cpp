@@ -1,7 +1,7 @@
 #include "ApoioFuzz.h"
 
-#include "shell/MsgBox.h"
-#include "store/modBancoDados.h"
+#include "core/session/MsgBox.h"
+#include "core/store/modBancoDados.h"
 
 #include <QCoreApplication>
 #include <QDir>

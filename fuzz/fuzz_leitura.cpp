@@ -3,8 +3,8 @@
 // database exactly as it was.
 #include "ApoioFuzz.h"
 
-#include "file/LeArquivoVrt.h"
-#include "store/modBancoDados.h"
+#include "core/file/reading/LeArquivoVrt.h"
+#include "core/store/modBancoDados.h"
 
 // Before the first input, so that its time does not count against the first input.
 extern "C" int LLVMFuzzerInitialize(int*, char***)

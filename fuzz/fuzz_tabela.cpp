@@ -3,9 +3,9 @@
 // must leave the database as it was.
 #include "ApoioFuzz.h"
 
-#include "refdata/modImportacao.h"
-#include "shell/modVRTPLN.h"
-#include "store/modBancoDados.h"
+#include "core/refdata/modImportacao.h"
+#include "core/session/modVRTPLN.h"
+#include "core/store/modBancoDados.h"
 
 // Before the first input, so that its time does not count against the first input.
 extern "C" int LLVMFuzzerInitialize(int*, char***)

@@ -1,7 +1,7 @@
 // The file checker of "vrt-cli verificar" on any bytes: it lists problems and never touches the database.
 #include "ApoioFuzz.h"
 
-#include "file/VerificaArquivoVrt.h"
+#include "core/file/checking/VerificaArquivoVrt.h"
 
 extern "C" int LLVMFuzzerInitialize(int*, char***)
 {

@@ -2,8 +2,8 @@
 #include "cli/ComandoTabela.h"
 #include "cli/ComandosCli.h"
 #include "cli/OpcoesCli.h"
-#include "shell/MsgBox.h"
-#include "store/TravaBanco.h"
+#include "core/session/MsgBox.h"
+#include "core/store/TravaBanco.h"
 
 #include <QCoreApplication>
 #include <cstdio>

@@ -1,8 +1,8 @@
 // vrt-cli killed (SIGKILL) at random moments of a long import: after each kill the database passes its
 // integrity check and holds exactly its last committed state, the one before the import (no declaration, no
 // number consumed, no table half-written). Each kill leaves a stale lock behind, which the next run takes over.
-#include "../file/ArquivoTeste.h"
-#include "../refdata/ArquivoTabela.h"
+#include "ArquivoTeste.h"
+#include "ArquivoTabela.h"
 #include "TestUtil.h"
 
 #include <QElapsedTimer>

@@ -1,9 +1,9 @@
 // One writer per database: while the program has the database open, a vrt-cli command that writes says so and
 // touches nothing, one that only reads goes on without a word; a lock left by a killed process is taken over.
 // The program here is the real one, a copy of the built `vrt` beside a copy of the delivered database.
-#include "../file/ArquivoTeste.h"
+#include "ArquivoTeste.h"
 #include "TestUtil.h"
-#include "store/TravaBanco.h"
+#include "core/store/TravaBanco.h"
 
 #include <QElapsedTimer>
 #include <QFileInfo>
