@@ -5,8 +5,10 @@
 #
 # Runs each harness (fuzz_leitura, fuzz_verificacao, fuzz_tabela; all by default) for SEGUNDOS seconds (60 by
 # default), starting from its corpus in fuzz/corpus/<harness>/ and the files of tests/data/, then merges what it
-# found back into that corpus, minimised (-merge=1), so that the corpus stays small. An input that crashes,
-# hangs or leaks is kept in build-fuzz/artefatos/ and the script ends with status 1.
+# found back into that corpus, minimised (-merge=1), so that the corpus stays small; inputs are cut at 3000
+# bytes (the head records and a few items), which keeps the corpus to a few hundred KB. An input that crashes,
+# hangs (60 s of wall time: the machine may be shared, and a starved run of a sound input takes seconds) or
+# leaks is kept in build-fuzz/artefatos/ and the script ends with status 1.
 # VRT_FUZZ_BUILD_DIR names another build folder; VRT_FUZZ_JOBS the build's parallel jobs (2); VRT_FUZZ_GUARDA=0
 # leaves the corpus of the repository untouched (as CI does).
 set -euo pipefail
@@ -45,7 +47,7 @@ for h in "${harnesses[@]}"; do
         *) semente="$sementes/declaracao" ;;
     esac
     echo "== $h: $segundos s"
-    if ! "$build/fuzz/$h" -max_total_time="$segundos" -timeout=10 -rss_limit_mb=2048 -max_len=8192 \
+    if ! "$build/fuzz/$h" -max_total_time="$segundos" -timeout=60 -rss_limit_mb=2048 -max_len=3000 \
         -print_final_stats=1 -artifact_prefix="$build/artefatos/$h-" "$novos" "$corpus" "$semente"; then
         falhas=1
         echo "== $h: falha; a entrada está em $build/artefatos/"
@@ -57,7 +59,7 @@ for h in "${harnesses[@]}"; do
     minimo="$build/minimo/${h#fuzz_}"
     rm -rf "$minimo"
     mkdir -p "$minimo"
-    "$build/fuzz/$h" -merge=1 -max_len=8192 "$minimo" "$corpus" "$novos" "$semente" 2>&1 | tail -n 1
+    "$build/fuzz/$h" -merge=1 -max_len=3000 "$minimo" "$corpus" "$novos" "$semente" 2>&1 | tail -n 1
     rm -rf "$corpus" "$novos"
     mv "$minimo" "$corpus"
     echo "== $h: corpus com $(ls "$corpus" | wc -l) arquivos, $(du -sk "$corpus" | cut -f1) KB"
