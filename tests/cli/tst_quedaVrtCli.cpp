@@ -143,5 +143,13 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TstQuedaVrtCli)
+int main(int argc, char** argv)
+{
+    // A hundred runs of vrt-cli on a shared machine may outlast QtTest's five minutes per function.
+    if (!qEnvironmentVariableIsSet("QTEST_FUNCTION_TIMEOUT"))
+        qputenv("QTEST_FUNCTION_TIMEOUT", "1200000");
+    QCoreApplication app(argc, argv);
+    TstQuedaVrtCli teste;
+    return QTest::qExec(&teste, argc, argv);
+}
 #include "tst_quedaVrtCli.moc"
