@@ -32,7 +32,7 @@ void saida(const QString& texto)
 
 namespace ComandosCli {
 
-bool AbreBanco(const OpcoesCli& opcoes)
+QString ArquivoDoBanco(const OpcoesCli& opcoes)
 {
     modVRTPLN::CaminhoAplicacao = QCoreApplication::applicationDirPath();
     QString arquivo;
@@ -46,8 +46,18 @@ bool AbreBanco(const OpcoesCli& opcoes)
     }
     if (!QFileInfo(arquivo).isFile()) {
         erro(s("banco de dados não encontrado: ") + arquivo);
-        return false;
+        return QString();
     }
+    return arquivo;
+}
+
+bool Escreve(const QString& comando)
+{
+    return comando == s("importar") || comando == s("tabela");
+}
+
+bool AbreBanco(const QString& arquivo)
+{
     return modBancoDados::ConectaBanco(arquivo);
 }
 

@@ -4,9 +4,13 @@
 
 namespace ComandosCli {
 
-// Connects the database the program uses (beside the executable), or the one named by --banco; false, with
-// the reason on stderr, when there is none.
-bool AbreBanco(const OpcoesCli& opcoes);
+// The database the program uses (beside the executable, or in the user's data folder), or the one named by
+// --banco; empty, with the reason on stderr, when there is none.
+QString ArquivoDoBanco(const OpcoesCli& opcoes);
+// Whether the command writes to the database: it then must hold the database's lock, as the program does.
+bool Escreve(const QString& comando);
+// Connects `arquivo` as the session's connection.
+bool AbreBanco(const QString& arquivo);
 
 int Gravar(const OpcoesCli& opcoes);
 int Importar(const OpcoesCli& opcoes);

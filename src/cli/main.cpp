@@ -3,6 +3,7 @@
 #include "cli/ComandosCli.h"
 #include "cli/OpcoesCli.h"
 #include "core/session/MsgBox.h"
+#include "core/store/TravaBanco.h"
 
 #include <QCoreApplication>
 #include <cstdio>
@@ -23,7 +24,19 @@ int main(int argc, char** argv)
         return ComandosCli::Verificar(opcoes);
     // Until a command installs its own, boxes print to stderr (a failed statement's among them).
     InstalaManipuladorMsg(ManipuladorConsole);
-    if (!ComandosCli::AbreBanco(opcoes))
+    const QString arquivo = ComandosCli::ArquivoDoBanco(opcoes);
+    if (arquivo.isEmpty())
+        return 1;
+    // One writer per database: a command that writes waits for no one and touches nothing while the program
+    // (or another vrt-cli that writes) has the database. Commands that only read go on.
+    TravaBanco trava(arquivo);
+    if (ComandosCli::Escreve(opcoes.comando) && !trava.trava()) {
+        std::fprintf(stderr, "vrt-cli: %s\n",
+                     QStringLiteral("o banco de dados %1 está em uso pelo VRT ou por outro vrt-cli; feche-o e "
+                                    "repita o comando.").arg(arquivo).toUtf8().constData());
+        return 1;
+    }
+    if (!ComandosCli::AbreBanco(arquivo))
         return 1;
     if (opcoes.comando == QStringLiteral("gravar"))
         return ComandosCli::Gravar(opcoes);

@@ -51,6 +51,9 @@ QString comNomes(const QString& texto)
 void ComandosPreparados::falha(const QSqlQuery& q)
 {
     const QSqlError erro = q.lastError();
+    // A busy database is not the row's fault: it ends the run with its own message whatever the caller chose.
+    if (m_antes == AntesDeFalhar::Recusa && !modBancoDados::BancoOcupado(erro))
+        throw ComandoRecusado{erro};
     if (m_antes == AntesDeFalhar::DesfazTransacao)
         modBancoDados::DesfazTransacao();
     modBancoDados::BDTrataErro(erro);
@@ -63,7 +66,7 @@ QSqlQuery& ComandosPreparados::roda(const QString& sql, const QVariantList& valo
         auto q = std::make_shared<QSqlQuery>(modBancoDados::ConexaoBanco());
         q->setForwardOnly(true);
         if (!q->prepare(comNomes(sql)))
-            falha(*q);
+            modBancoDados::BDTrataErro(q->lastError());
         it = m_consultas.insert(sql, std::move(q));
     }
     QSqlQuery& q = **it;

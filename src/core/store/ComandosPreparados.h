@@ -2,20 +2,28 @@
 // The one cache of prepared statements: each statement is prepared once, on first use, and kept for the life
 // of the cache, keyed by its text (two texts that are equal share one statement, two that differ never do).
 // A long operation (reading a declaration file, a reference import) runs the same dozen statements a hundred
-// thousand times; preparing them per row would cost more than running them. Values are always bound; a failed
-// statement ends the run through BDTrataErro.
+// thousand times; preparing them per row would cost more than running them. Values are always bound. A statement
+// that cannot be prepared, or a database held by another process, ends the run through BDTrataErro; a statement
+// the database refuses does what the caller chose (AntesDeFalhar).
 #include <QHash>
+#include <QSqlError>
 #include <QSqlQuery>
 #include <QString>
 #include <QVariant>
 #include <QVariantList>
 #include <memory>
 
+// A row the database refused (a missing parent, a value too wide), thrown under AntesDeFalhar::Recusa.
+struct ComandoRecusado {
+    QSqlError erro;
+};
+
 class ComandosPreparados {
 public:
-    // What a failed statement does before BDTrataErro: the reference imports roll their transaction back first,
-    // as they always did; every other caller leaves the transaction to its guard.
-    enum class AntesDeFalhar { Nada, DesfazTransacao };
+    // What a refused statement does: end the run, leaving the transaction to its guard (Nada); end it after
+    // rolling the transaction back, as the reference imports always did (DesfazTransacao); or throw
+    // ComandoRecusado, for the declaration reader to refuse the file at that line inside its transaction (Recusa).
+    enum class AntesDeFalhar { Nada, DesfazTransacao, Recusa };
 
     explicit ComandosPreparados(AntesDeFalhar antes = AntesDeFalhar::Nada);
     ~ComandosPreparados();

@@ -29,7 +29,9 @@ bool abreArquivo(QSqlDatabase& db, const QString& caminho)
     if (!db.open())
         return false;
     QSqlQuery pragma(db);
-    return pragma.exec(QStringLiteral("PRAGMA foreign_keys = ON"));
+    // Another process reading or committing holds the file for a moment: wait for it rather than fail at once.
+    return pragma.exec(QStringLiteral("PRAGMA foreign_keys = ON")) &&
+           pragma.exec(QStringLiteral("PRAGMA busy_timeout = %1").arg(EsperaBancoOcupadoMs));
 }
 
 void prepara(QSqlQuery& q, const QString& sql, const QVariantList& valores)
@@ -230,8 +232,24 @@ void BDTrataErro(const QString& numero, const QString& descricao)
     std::_Exit(1);
 }
 
+bool BancoOcupado(const QSqlError& erro)
+{
+    // SQLITE_BUSY (5) and SQLITE_LOCKED (6), with their extended codes in the upper bits.
+    bool ok = false;
+    const int codigo = erro.nativeErrorCode().toInt(&ok);
+    return ok && ((codigo & 0xff) == 5 || (codigo & 0xff) == 6);
+}
+
 void BDTrataErro(const QSqlError& erro)
 {
+    if (BancoOcupado(erro)) {
+        MsgBox(QStringLiteral("O banco de dados está em uso por outro programa e não pôde ser usado agora.\n"
+                              "O que estava sendo feito não foi gravado; o que já estava salvo continua no banco.\n"
+                              "Feche o outro programa e tente de novo."),
+               Msg::Critical);
+        encerramentoAtual()(erro.nativeErrorCode(), erro.databaseText());
+        std::_Exit(1);
+    }
     const QString numero = erro.nativeErrorCode().isEmpty() ? QStringLiteral("1") : erro.nativeErrorCode();
     QString descricao = erro.databaseText();
     if (descricao.isEmpty())

@@ -62,8 +62,14 @@ private:
     bool m_aberta = true;  // this guard began the transaction and has not ended it
 };
 
+// How long a statement waits for another process that holds the file before SQLite reports it busy.
+constexpr int EsperaBancoOcupadoMs = 3000;
+// Whether SQLite refused a statement because another connection holds the database (busy or locked).
+bool BancoOcupado(const QSqlError& erro);
+
 // Shows "Error #" number ": " description (critical, title "BDTrataErro") and ends the run at once.
 [[noreturn]] void BDTrataErro(const QString& numero, const QString& descricao);
+// A database held by another process ends the run the same way, with a Portuguese message that says so.
 [[noreturn]] void BDTrataErro(const QSqlError& erro);
 
 // How the run ends after BDTrataErro. The program leaves the process at once; tests throw FimDaExecucao.

@@ -17,9 +17,8 @@ Execucao Main(const QString& caminhoAplicacao, int segundosSplash)
         MsgBox(QStringLiteral("O banco de dados não foi encontrado:\n%1").arg(ArquivoBanco()), Msg::Critical);
         return run;
     }
-    run.trava = std::make_unique<QLockFile>(ArquivoBanco() + QStringLiteral(".lock"));
-    run.trava->setStaleLockTime(0);
-    if (!run.trava->tryLock(0)) {
+    run.trava = std::make_unique<TravaBanco>(ArquivoBanco());
+    if (!run.trava->trava()) {
         MsgBox(QStringLiteral("O VRT já está em execução com este banco de dados.\n"
                               "Feche o outro programa antes de abrir este."),
                Msg::Critical);

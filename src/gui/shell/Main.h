@@ -1,12 +1,13 @@
 #pragma once
-#include <QLockFile>
+#include "core/store/TravaBanco.h"
+
 #include <memory>
 
 class frmVRTPLN;
 
 // What a started run holds: the lock that keeps a second copy off the database, and the main window.
 struct Execucao {
-    std::unique_ptr<QLockFile> trava;
+    std::unique_ptr<TravaBanco> trava;
     std::unique_ptr<frmVRTPLN> janela;
     bool iniciada() const { return janela != nullptr; }
 };

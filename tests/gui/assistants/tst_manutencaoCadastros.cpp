@@ -1,5 +1,6 @@
 // The maintenance face of the product and unit assistants, opened from the Ferramentas menu: Incluir, Alterar,
 // Excluir in a transaction of their own, and the closing question.
+#include "DigitaTexto.h"
 #include "TestUtil.h"
 
 #include "app/RegistroTelas.h"
@@ -612,6 +613,58 @@ private slots:
                      .toString(),
                  longa.left(79) + QLatin1Char('1'));
         MensagensRoteiro msgs;
+
+    // Quotes, semicolons, percent signs, backslashes and Windows-1252 letters typed into the fields are stored
+    // and read back as typed; the apostrophe (and in codes every special character) and what Windows-1252
+    // cannot hold are refused at entry. No statement ever fails on them.
+    void textoDificilGuardadoComoDigitado_data()
+    {
+        QTest::addColumn<bool>("produto");
+        QTest::addColumn<QString>("codigo");
+        QTest::addColumn<QString>("descricao");
+        QTest::addColumn<QString>("codigoGuardado");
+        QTest::addColumn<QString>("descricaoGuardada");
+        QTest::newRow("aspas, ponto e vírgula, por cento, barra invertida")
+            << true << "P-1" << "Caneca \"G\"; 100% \\ a_b" << "P1" << "Caneca \"G\"; 100% \\ a_b";
+        QTest::newRow("letras do Windows-1252") << true << "ÇÃO€" << "Ação “€” Œ œ ™ ñ ‰" << "ÇÃO€"
+                                                << "Ação “€” Œ œ ™ ñ ‰";
+        QTest::newRow("apóstrofo recusado") << true << "D'AV" << "D'Ávila" << "DAV" << "DÁvila";
+        QTest::newRow("especiais recusados no código")
+            << true << "A\"B;C%D\\E" << "X" << "ABCDE" << "X";
+        QTest::newRow("fora do Windows-1252 recusado") << true << "Ω1" << "Ωmega 漢字 ok" << "1" << "mega  ok";
+        QTest::newRow("unidade com aspas e por cento") << false << "77" << "Caixa \"50%\"; 10\\20"
+                                                       << "77" << "Caixa \"50%\"; 10\\20";
+        QTest::newRow("unidade fora do Windows-1252") << false << "78" << "Ω caixa ‘1’ ☃" << "78"
+                                                      << " caixa ‘1’ ";
+    }
+    void textoDificilGuardadoComoDigitado()
+    {
+        QFETCH(bool, produto);
+        QFETCH(QString, codigo);
+        QFETCH(QString, descricao);
+        QFETCH(QString, codigoGuardado);
+        QFETCH(QString, descricaoGuardada);
+        BancoTeste banco;
+        semeia(produto ? "PRODUTO" : "UNIDADE_MEDIDA");
+        Cadastro c = abre(produto);
+        MensagensRoteiro msgs;
+        c.codigo->clear();
+        DigitaTexto(c.codigo, codigo);
+        c.descricao->clear();
+        DigitaTexto(c.descricao, descricao);
+        QCOMPARE(c.codigo->text(), codigoGuardado);
+        QCOMPARE(c.descricao->text(), descricaoGuardada);
+        const QString fim = numeroDoFim([&] { QTest::mouseClick(c.incluir, Qt::LeftButton); });
+        QCOMPARE(fim, QString());
+        QCOMPARE(msgs.caixas.size(), 0);
+        QCOMPARE(BancoTeste::valor(QStringLiteral("SELECT %1 FROM %2 WHERE %3 = ?")
+                                       .arg(c.colunaNome, c.tabela, c.colunaCodigo),
+                                   {codigoGuardado})
+                     .toString(),
+                 descricaoGuardada);
+        const int linha = linhaDe(c.grade, codigoGuardado);
+        QVERIFY(linha >= 0);
+        QCOMPARE(c.grade->cellText(linha, AssistenteTabela::ColunaNome), descricaoGuardada);
         msgs.responde(Msg::No);
         QTest::mouseClick(c.cancela, Qt::LeftButton);
     }

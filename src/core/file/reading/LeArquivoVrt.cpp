@@ -98,14 +98,14 @@ void LeArquivoVrt::leDentroDaTransacao(LinhasArquivo& linhas)
 {
     bool concluida = false;
     {
-        ComandosPreparados comandos;
+        ComandosPreparados comandos(ComandosPreparados::AntesDeFalhar::Recusa);
         CadastrosLeitura cadastros(comandos, m_estado);
         m_comandos = &comandos;
         m_cadastros = &cadastros;
         // One transaction for the whole file: a failure anywhere rolls back everything, the number taken and
         // the deletion of a replaced declaration included.
         modBancoDados::Transacao transacao;
-        concluida = leLinhas(linhas);
+        concluida = leLinhasOuRecusa(linhas);
         if (concluida) {
             transacao.confirma();
             m_resultado.ProdutosCadastrados = cadastros.ProdutosCadastrados;
@@ -138,6 +138,19 @@ QString LeArquivoVrt::relatorio(const ResultadoLeitura& r)
         texto += s("- ") + QString::number(r.UnidadesCadastradas) + s(" unidades de medida cadastradas.") + cr;
     texto += cr + s("O arquivo foi importado com sucesso! ") + cr + s("Número de identificação: ") + r.IdVrtLida;
     return texto;
+}
+
+bool LeArquivoVrt::leLinhasOuRecusa(LinhasArquivo& linhas)
+{
+    try {
+        return leLinhas(linhas);
+    } catch (const ComandoRecusado&) {
+        // A line whose row the database refuses (a record 12 before any record 11 has no parent key) is a bad
+        // line like any other: the file is refused at it and the transaction rolled back.
+        return m_estado.falha(m_tipoAtual, s("Erro no ") + QString::number(m_estado.ContaLinhas) +
+                                               s("º registro (registro ") + m_tipoAtual +
+                                               s(") - Registro não aceito pelo banco de dados!"));
+    }
 }
 
 bool LeArquivoVrt::leLinhas(LinhasArquivo& linhas)
@@ -178,6 +191,7 @@ bool LeArquivoVrt::leCabeca(LinhasArquivo& linhas, int numero, QString& linha)
 {
     const QString tipo = RegistrosCabeca::tipo(numero);
     m_cabecaAtual = tipo;
+    m_tipoAtual = tipo;
     if (linhas.fim())
         return m_estado.falha(tipo, RegistrosCabeca::textoAusente(numero));
     linha = linhas.proxima();
@@ -370,6 +384,7 @@ bool LeArquivoVrt::leItens(LinhasArquivo& linhas)
     while (!linhas.fim()) {
         QString linha = linhas.proxima();
         ++m_estado.ContaLinhas;
+        m_tipoAtual = linha.left(2);
         avisaProgresso(m_estado.ContaLinhas, linhas.total());
         const QString tipo = linha.left(2);
         if (!tiposItens.contains(tipo))

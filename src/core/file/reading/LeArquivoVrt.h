@@ -66,6 +66,7 @@ public:
 
 private:
     void leDentroDaTransacao(LinhasArquivo& linhas);
+    bool leLinhasOuRecusa(LinhasArquivo& linhas);
     bool leLinhas(LinhasArquivo& linhas);
     // The head record expected at line `numero` into `linha`, its presence, length and type checked.
     bool leCabeca(LinhasArquivo& linhas, int numero, QString& linha);
@@ -90,6 +91,7 @@ private:
     ProgressoLeitura m_progresso;
     int m_ultimoPercentual = -1;
     ResultadoLeitura m_resultado;
+    QString m_tipoAtual;  // record type of the line being read, for the refusal of a line the database refuses
     EstadoLeitura m_estado;
     ComandosPreparados* m_comandos = nullptr;
     CadastrosLeitura* m_cadastros = nullptr;
