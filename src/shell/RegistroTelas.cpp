@@ -3,6 +3,8 @@
 #include "assistants/frmAssistenteCCI.h"
 #include "assistants/frmAssistenteMED.h"
 #include "assistants/frmAssistenteVRT.h"
+#include "editor/frmVRTindividualNovo.h"
+#include "editor/frmVRTmensalNovo.h"
 #include "file/frmManipulaArquivo.h"
 #include "shell/modVRTPLN.h"
 
@@ -11,6 +13,8 @@ void RegistraTelas()
 {
     RegistraTela(modVRTPLN::Escolha, [] { return new frmAssistenteVRT; });
     RegistraTela(modVRTPLN::ManipulaArquivo, [] { return new frmManipulaArquivo; });
+    RegistraTela(modVRTPLN::Mensal, [] { return new frmVRTmensalNovo; });
+    RegistraTela(modVRTPLN::Individual, [] { return new frmVRTindividualNovo; });
     // The maintenance faces of the product and unit assistants, shown modally from the Ferramentas menu; the
     // menu sets ProdutoPeloMenu or UnidadePeloMenu before it builds them.
     RegistraDialogo(QStringLiteral("frmAssistenteCCI"), [](QWidget* pai) { return new frmAssistenteCCI(pai); });
