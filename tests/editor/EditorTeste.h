@@ -120,7 +120,12 @@ struct Ambiente {
             t << c->itemText(i);
         return t;
     }
-    void clica(const QString& nome) { QTest::mouseClick(campo<QAbstractButton>(nome), Qt::LeftButton); }
+    // A click near the left edge, where a box's indicator and caption stand however wide the box is laid out.
+    void clica(const QString& nome)
+    {
+        auto* b = campo<QAbstractButton>(nome);
+        QTest::mouseClick(b, Qt::LeftButton, {}, QPoint(qMin(8, b->width() / 2), b->height() / 2));
+    }
     void vaiParaAba(int aba) { abas()->setCurrentIndex(aba); }
 
     // The monthly general data, filled and valid.
