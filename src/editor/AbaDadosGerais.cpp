@@ -1,6 +1,7 @@
 #include "editor/AbaDadosGerais.h"
 
 #include "editor/AbaNotaSaida.h"
+#include "editor/LarguraCampo.h"
 #include "rules/DigitoVerificador.h"
 #include "rules/FormatoNumero.h"
 #include "rules/NumerosDocumento.h"
@@ -15,6 +16,7 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QVBoxLayout>
 
 using namespace Funcoes;
@@ -51,7 +53,7 @@ AbaDadosGerais::AbaDadosGerais(bool individual, const bool* carregando, QWidget*
         for (int i = 0; i < 2; ++i) {
             txtDadosGeraisMensal[i] =
                 new DigitField(QStringLiteral("txtDadosGeraisMensal(%1)").arg(i), i == 0 ? 2 : 4, fraDGMensal);
-            txtDadosGeraisMensal[i]->setMaximumWidth(60);
+            larguraParaTexto(txtDadosGeraisMensal[i], QStringLiteral("00000"), true);
         }
         f->addRow(QStringLiteral("Mês"), txtDadosGeraisMensal[0]);
         f->addRow(QStringLiteral("Ano"), txtDadosGeraisMensal[1]);
@@ -59,8 +61,8 @@ AbaDadosGerais::AbaDadosGerais(bool individual, const bool* carregando, QWidget*
     }
     constroiPagamento(this);
     linha->addWidget(findChild<QGroupBox*>(QStringLiteral("fraPagamento")), 1);
-    coluna->addLayout(linha);
-    auto* caixas = new QHBoxLayout;
+    // The two boxes stand beside the frames, one above the other.
+    auto* caixas = new QVBoxLayout;
     const char* legendas[] = {"Mandado Judicial", "Retificação"};
     for (int i = 0; i < 2; ++i) {
         ChkMand_Retif[i] = new QCheckBox(QString::fromUtf8(legendas[i]), this);
@@ -68,7 +70,8 @@ AbaDadosGerais::AbaDadosGerais(bool individual, const bool* carregando, QWidget*
         caixas->addWidget(ChkMand_Retif[i]);
     }
     caixas->addStretch(1);
-    coluna->addLayout(caixas);
+    linha->addLayout(caixas);
+    coluna->addLayout(linha);
     constroiRetificacao();
     ligaRegras();
 }
@@ -79,6 +82,7 @@ void AbaDadosGerais::constroiInternador(QWidget* area)
     quadro->setObjectName(QStringLiteral("fraInternador"));
     auto* f = new QFormLayout(quadro);
     mskDadosGerais[1] = new MaskedField(MascaraCnpj, QStringLiteral("mskDadosGerais(1)"), quadro);
+    larguraParaTexto(mskDadosGerais[1], QStringLiteral("00.000.000/0000-000"));
     f->addRow(QStringLiteral("CNPJ"), mskDadosGerais[1]);
     if (m_individual) {
         mskInscricaoEstadual = new DigitField(QStringLiteral("mskDadosGerais(2)"), 14, quadro);
@@ -97,6 +101,9 @@ void AbaDadosGerais::constroiPagamento(QWidget* area)
         txtDadosGerais[i] = new DigitField(QStringLiteral("txtDadosGerais(%1)").arg(i), larguras[i], quadro);
         f->addRow(QString::fromUtf8(rotulos[i]), txtDadosGerais[i]);
     }
+    larguraParaTexto(txtDadosGerais[1], QStringLiteral("0000"));
+    larguraParaTexto(txtDadosGerais[2], QStringLiteral("00000"));
+    larguraParaTexto(txtDadosGerais[3], QStringLiteral("00000000000000000000"));
     txtDadosGerais[3]->setExtraCharacters(QStringLiteral("Xx"));
     // The individual editor turns the account to capitals as it is typed.
     txtDadosGerais[3]->setUpperCase(m_individual);
@@ -111,18 +118,24 @@ void AbaDadosGerais::constroiRetificacao()
     auto* f = new QFormLayout;
     mskDadosGerais[0] = new MaskedField(QStringLiteral("##/#######-#"), QStringLiteral("mskDadosGerais(0)"),
                                         m_retificacao);
+    larguraParaTexto(mskDadosGerais[0], QStringLiteral("00/0000000-00"));
     f->addRow(QStringLiteral("Número VRT"), mskDadosGerais[0]);
     linha->addLayout(f);
     fraProcessoAdministrativo = new QGroupBox(QStringLiteral("Processo Administrativo"), m_retificacao);
     fraProcessoAdministrativo->setObjectName(QStringLiteral("fraProcessoAdministrativo"));
-    auto* p = new QFormLayout(fraProcessoAdministrativo);
+    auto* p = new QHBoxLayout(fraProcessoAdministrativo);
     chkSimRest = new QCheckBox(QStringLiteral("Restituição"), fraProcessoAdministrativo);
     chkSimRest->setObjectName(QStringLiteral("chkSimRest"));
     mskDadosGerais[3] = new MaskedField(QStringLiteral("#####.######/####-##"), QStringLiteral("mskDadosGerais(3)"),
                                         fraProcessoAdministrativo);
     mskDadosGerais[3]->setEnabled(false);
-    p->addRow(chkSimRest);
-    p->addRow(QStringLiteral("Número do processo"), mskDadosGerais[3]);
+    larguraParaTexto(mskDadosGerais[3], QStringLiteral("00000.000000/0000-000"));
+    auto* rotulo = new QLabel(QStringLiteral("Número do processo"), fraProcessoAdministrativo);
+    rotulo->setBuddy(mskDadosGerais[3]);
+    p->addWidget(chkSimRest);
+    p->addSpacing(12);
+    p->addWidget(rotulo);
+    p->addWidget(mskDadosGerais[3], 1);
     linha->addWidget(fraProcessoAdministrativo, 1);
     m_retificacao->hide();
 }

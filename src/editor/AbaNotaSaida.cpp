@@ -1,5 +1,6 @@
 #include "editor/AbaNotaSaida.h"
 
+#include "editor/LarguraCampo.h"
 #include "rules/Datas.h"
 #include "rules/DigitoVerificador.h"
 #include "rules/FormatoNumero.h"
@@ -15,6 +16,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -59,7 +61,7 @@ void AbaNotaSaida::constroiNota()
 {
     auto* quadro = new QGroupBox(QStringLiteral("Nota Fiscal de Saída"), this);
     quadro->setObjectName(QStringLiteral("fraNotaFiscalSaida"));
-    auto* f = new QFormLayout(quadro);
+    auto* f = new QGridLayout(quadro);
     txtNumero = new DigitField(QStringLiteral("mskDadosGeraisIndividual(3)"), 6, quadro);
     txtSerie = new TextField(QStringLiteral("txtDadosGeraisIndividual(1)"), 5, quadro);
     txtSerie->acceptLettersAndDigitsOnly().setUpperCase();
@@ -67,11 +69,23 @@ void AbaNotaSaida::constroiNota()
         mskDadosGeraisIndividual[i] =
             new MaskedField(QStringLiteral("##/##/####"), QStringLiteral("mskDadosGeraisIndividual(%1)").arg(i), quadro);
     txtCfop = new DigitField(QStringLiteral("txtDadosGeraisIndividual(2)"), 4, quadro);
-    f->addRow(QStringLiteral("Número"), txtNumero);
-    f->addRow(QStringLiteral("Série/Subserie"), txtSerie);
-    f->addRow(QStringLiteral("Data de emissão"), mskDadosGeraisIndividual[0]);
-    f->addRow(QStringLiteral("Data de saída"), mskDadosGeraisIndividual[1]);
-    f->addRow(QStringLiteral("CFOP"), txtCfop);
+    // Two pairs of label and field a row: number and series, the two dates, the CFOP.
+    const QList<QPair<const char*, QWidget*>> campos = {{"Número", txtNumero},
+                                                        {"Série/Subserie", txtSerie},
+                                                        {"Data de emissão", mskDadosGeraisIndividual[0]},
+                                                        {"Data de saída", mskDadosGeraisIndividual[1]},
+                                                        {"CFOP", txtCfop}};
+    larguraParaTexto(txtNumero, QStringLiteral("0000000"));
+    larguraParaTexto(txtSerie, QStringLiteral("WWWWW"));
+    for (int i = 0; i < 2; ++i)
+        larguraParaTexto(mskDadosGeraisIndividual[i], QStringLiteral("00/00/00000"));
+    larguraParaTexto(txtCfop, QStringLiteral("00000"));
+    for (int i = 0; i < campos.size(); ++i) {
+        auto* rotulo = new QLabel(QString::fromUtf8(campos.at(i).first), quadro);
+        rotulo->setBuddy(campos.at(i).second);
+        f->addWidget(rotulo, i / 2, (i % 2) * 2);
+        f->addWidget(campos.at(i).second, i / 2, (i % 2) * 2 + 1);
+    }
 }
 
 void AbaNotaSaida::constroiDestino()
@@ -92,6 +106,7 @@ void AbaNotaSaida::constroiDestino()
     lblValorCNPJouCPF_tabDadosGerais_Individual->setObjectName(
         QStringLiteral("lblValorCNPJouCPF_tabDadosGerais_Individual"));
     mskDadosGeraisIndividual[2] = new MaskedField(MascaraCnpj, QStringLiteral("mskDadosGeraisIndividual(2)"), pessoa);
+    larguraParaTexto(mskDadosGeraisIndividual[2], QStringLiteral("00.000.000/0000-000"));
     p->addRow(lblValorCNPJouCPF_tabDadosGerais_Individual, mskDadosGeraisIndividual[2]);
 
     auto* destino = new QGroupBox(QStringLiteral("Destino"), this);

@@ -41,6 +41,11 @@ EditorDeclaracao::EditorDeclaracao(const ConfigEditor& config, QWidget* parent) 
 
 EditorDeclaracao::~EditorDeclaracao() = default;
 
+QSize EditorDeclaracao::sizeHint() const
+{
+    return minimumSizeHint().expandedTo(QSize(760, 0));
+}
+
 void EditorDeclaracao::constroiAbas()
 {
     auto* layout = new QVBoxLayout(this);

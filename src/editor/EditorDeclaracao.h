@@ -30,6 +30,8 @@ public:
     bool ValidaDadosGerais() override;
     void AtualizaDadosGerais() override;
     bool TestaDadosGerais() const;
+    // The editor opens at the size its fields need, so that it fits a main window of 1024×768.
+    QSize sizeHint() const override;
 
     // ID_VRT_MICRO of the declaration; empty until the general data are first written.
     QString idVrt() const { return m_copia.idVrt; }

@@ -11,6 +11,7 @@
 
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -99,6 +100,10 @@ void ExecutorBloco::constroi(QWidget* area)
                         numero ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter});
     }
     m_grade->setColumns(colunas);
+    // The grid takes the height the screen leaves it, a few rows at least, so that a tab of several blocks still
+    // opens inside the main window.
+    m_grade->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    m_grade->setMinimumHeight(m_grade->verticalHeader()->defaultSectionSize() * 3 + m_grade->horizontalHeader()->sizeHint().height() + 4);
     dentro->addWidget(m_grade);
     coluna->addWidget(m_quadro, 1);
 

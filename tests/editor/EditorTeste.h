@@ -50,7 +50,8 @@ struct Ambiente {
         janela.carrega();
         janela.show();
         janela.activateWindow();
-        QTest::qWaitForWindowActive(&janela);
+        if (!QTest::qWaitForWindowActive(&janela))
+            qWarning("a janela principal não ficou ativa");
     }
     ~Ambiente()
     {
