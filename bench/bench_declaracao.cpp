@@ -2,11 +2,11 @@
 // several destinations, entry documents): writing it, checking it with `vrt-cli verificar`, and reading it back
 // into an empty database; beside it, in the same run, the sqlite3 shell bulk-loading as many rows from CSV.
 // Prints records per second, the ratios to the bulk load, and peak memory. Never fails on time.
-#include "file/GravaVrt.h"
-#include "file/LeArquivoVrt.h"
-#include "shell/MsgBox.h"
-#include "shell/modVRTPLN.h"
-#include "store/modBancoDados.h"
+#include "core/file/writing/GravaVrt.h"
+#include "core/file/reading/LeArquivoVrt.h"
+#include "core/session/MsgBox.h"
+#include "core/session/modVRTPLN.h"
+#include "core/store/modBancoDados.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

@@ -2,12 +2,12 @@
 // values tab (every modality and type of both tables). Opening runs as the chooser's Abrir does (AbreTela and
 // FuncaoForm 2) until the editor is shown; saving is the main window's Salvar after a write. Prints the times
 // of several runs; never fails on time.
-#include "assistants/frmAssistenteVRT.h"
-#include "editor/BlocosValores.h"
-#include "shell/MsgBox.h"
-#include "shell/frmVRTPLN.h"
-#include "shell/modVRTPLN.h"
-#include "store/modBancoDados.h"
+#include "gui/assistants/frmAssistenteVRT.h"
+#include "gui/editor/BlocosValores.h"
+#include "core/session/MsgBox.h"
+#include "gui/shell/frmVRTPLN.h"
+#include "core/session/modVRTPLN.h"
+#include "core/store/modBancoDados.h"
 
 #include <QAction>
 #include <QApplication>

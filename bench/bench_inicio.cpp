@@ -1,8 +1,8 @@
 // Times the start of the program up to a shown main window (splash excluded): with the delivered database,
 // and with one of about 100 MB of declarations.
-#include "shell/Main.h"
-#include "shell/frmVRTPLN.h"
-#include "store/modBancoDados.h"
+#include "gui/shell/Main.h"
+#include "gui/shell/frmVRTPLN.h"
+#include "core/store/modBancoDados.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -3,11 +3,11 @@
 //   - a product file of 50,000 lines into an empty PRODUTO, and again over itself;
 //   - the chooser's list query over 5,000 declarations.
 // Prints the figures; never fails on time.
-#include "file/ListaDeclaracoes.h"
-#include "refdata/modImportacao.h"
-#include "shell/MsgBox.h"
-#include "shell/modVRTPLN.h"
-#include "store/modBancoDados.h"
+#include "core/lookups/ListaDeclaracoes.h"
+#include "core/refdata/modImportacao.h"
+#include "core/session/MsgBox.h"
+#include "core/session/modVRTPLN.h"
+#include "core/store/modBancoDados.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

@@ -3,5 +3,5 @@
 set -euo pipefail
 raiz="$(cd "$(dirname "$0")/.." && pwd)"
 build="${VRT_BUILD_DIR:-$raiz/build}"
-cmake -S "$raiz" -B "$build" -DCMAKE_BUILD_TYPE="${VRT_BUILD_TYPE:-RelWithDebInfo}" >/dev/null
+cmake -S "$raiz" -B "$build" -DCMAKE_BUILD_TYPE="${VRT_BUILD_TYPE:-RelWithDebInfo}"
 cmake --build "$build" -j"$(nproc)"

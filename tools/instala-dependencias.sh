@@ -1,11 +1,10 @@
 #!/usr/bin/env bash
-# Installs the Debian packages the build and the tests need, when they are missing.
+# Installs the Debian packages the build and the tests need, when they are missing; with nothing missing it only
+# asks dpkg once and says nothing.
 set -euo pipefail
 pacotes=(cmake make g++ qt6-base-dev qt6-base-dev-tools libqt6sql6-sqlite libgl-dev sqlite3 ccache)
-faltam=()
-for p in "${pacotes[@]}"; do
-    dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || faltam+=("$p")
-done
+mapfile -t faltam < <(dpkg-query -W -f='${Status} ${Package}\n' "${pacotes[@]}" 2>&1 |
+    awk '!/install ok installed/ {print $NF}')
 [ ${#faltam[@]} -eq 0 ] && exit 0
 echo "Instalando: ${faltam[*]}"
 if [ "$(id -u)" -eq 0 ]; then sudo=(); else sudo=(sudo); fi

@@ -1,9 +1,9 @@
 #include "cli/ComandoTabela.h"
 
 #include "cli/ManipuladorCli.h"
-#include "refdata/modImportacao.h"
-#include "shell/MsgBox.h"
-#include "shell/modVRTPLN.h"
+#include "core/refdata/modImportacao.h"
+#include "core/session/MsgBox.h"
+#include "core/session/modVRTPLN.h"
 
 #include <QFileInfo>
 #include <cstdio>

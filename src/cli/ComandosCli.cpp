@@ -1,13 +1,13 @@
 #include "cli/ComandosCli.h"
 
 #include "cli/ManipuladorCli.h"
-#include "file/GravaVrt.h"
-#include "file/LeArquivoVrt.h"
-#include "file/ListaDeclaracoes.h"
-#include "file/VerificaArquivoVrt.h"
-#include "shell/MsgBox.h"
-#include "shell/modVRTPLN.h"
-#include "store/modBancoDados.h"
+#include "core/file/writing/GravaVrt.h"
+#include "core/file/reading/LeArquivoVrt.h"
+#include "core/lookups/ListaDeclaracoes.h"
+#include "core/file/checking/VerificaArquivoVrt.h"
+#include "core/session/MsgBox.h"
+#include "core/session/modVRTPLN.h"
+#include "core/store/modBancoDados.h"
 
 #include <QCoreApplication>
 #include <QDir>

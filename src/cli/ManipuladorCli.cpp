@@ -1,6 +1,6 @@
 #include "cli/ManipuladorCli.h"
 
-#include "shell/MsgBox.h"
+#include "core/session/MsgBox.h"
 
 #include <cstdio>
 

@@ -2,7 +2,7 @@
 #include "cli/ComandoTabela.h"
 #include "cli/ComandosCli.h"
 #include "cli/OpcoesCli.h"
-#include "shell/MsgBox.h"
+#include "core/session/MsgBox.h"
 
 #include <QCoreApplication>
 #include <cstdio>

@@ -1,5 +1,5 @@
 // vrt-cli as a user runs it: the built binary driven by QProcess on a fresh copy of the delivered database.
-#include "../file/ArquivoTeste.h"
+#include "ArquivoTeste.h"
 #include "TestUtil.h"
 
 #include <QDir>

@@ -2,7 +2,7 @@
 // then the reference rows converted from the public source files kept unchanged in PASTA_DADOS/fontes
 // (currencies, states, commercial units; see the README there).
 // Usage: vrt-criabanco schema.sql PASTA_DADOS ARQUIVO_SAIDA
-#include "store/ScriptSql.h"
+#include "core/store/ScriptSql.h"
 
 #include <QCoreApplication>
 #include <QDir>

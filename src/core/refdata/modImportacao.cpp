@@ -1,0 +1,254 @@
+#include "core/refdata/modImportacao.h"
+
+#include "core/rules/Formatadores.h"
+#include "core/session/MsgBox.h"
+#include "core/session/modVRTPLN.h"
+#include "core/store/modBancoDados.h"
+
+#include <QFile>
+#include <QSqlQuery>
+#include <QStringDecoder>
+#include <QStringView>
+
+namespace modImportacao {
+
+namespace {
+
+const QString TextoSemRegistros = QStringLiteral("Erro no Header - Arquivo sem registros!");
+const QString TextoFormatoErrado = QStringLiteral("Erro - Arquivo com formato errado!");
+const QString TextoRegistroInesperado = QStringLiteral("Registro inesperado!");
+
+// Positions counted from 1, as the table layouts give them; a short line yields what it has, like Mid.
+QString campo(QStringView linha, int posicao, int tamanho)
+{
+    return linha.mid(posicao - 1, tamanho).toString();
+}
+
+// The name of a line goes through TrocaApostrofo so that a quote never reaches a statement, as the system did.
+QString nome(QStringView linha, int posicao, int tamanho)
+{
+    return Funcoes::TrocaApostrofo(campo(linha, posicao, tamanho), QStringLiteral("'"));
+}
+
+// The header's positions 1-9 name the system; position 10 "1", "2" or "3" marks a declaration file.
+bool cabecalhoValido(QStringView linha)
+{
+    if (!linha.startsWith(u"00VRT/PLN"))
+        return false;
+    const QStringView digito = linha.mid(9, 1);
+    return digito != u"1" && digito != u"2" && digito != u"3";
+}
+
+// The file's lines: CR LF, CR or LF end a line, and a line end at the very end makes no empty last line.
+QList<QStringView> divideLinhas(const QString& texto)
+{
+    QList<QStringView> linhas;
+    const QStringView v(texto);
+    qsizetype inicio = 0;
+    const qsizetype n = v.size();
+    for (qsizetype i = 0; i < n; ++i) {
+        const QChar c = v.at(i);
+        if (c == QLatin1Char('\r') || c == QLatin1Char('\n')) {
+            linhas.append(v.mid(inicio, i - inicio));
+            if (c == QLatin1Char('\r') && i + 1 < n && v.at(i + 1) == QLatin1Char('\n'))
+                ++i;
+            inicio = i + 1;
+        }
+    }
+    if (inicio < n)
+        linhas.append(v.mid(inicio));
+    return linhas;
+}
+
+// The statements of one import, prepared once and run per line. A failed one rolls the import back first and
+// then ends the run, as the import routines always did.
+class Comandos {
+public:
+    QSqlQuery prepara(const QString& sql)
+    {
+        QSqlQuery q(modBancoDados::ConexaoBanco());
+        q.setForwardOnly(true);
+        if (!q.prepare(sql))
+            falha(q);
+        return q;
+    }
+    static void executa(QSqlQuery& q, const QVariantList& valores)
+    {
+        for (int i = 0; i < valores.size(); ++i)
+            q.bindValue(i, valores.at(i));
+        if (!q.exec())
+            falha(q);
+    }
+    [[noreturn]] static void falha(const QSqlQuery& q)
+    {
+        const QSqlError erro = q.lastError();
+        modBancoDados::DesfazTransacao();
+        modBancoDados::BDTrataErro(erro);
+    }
+};
+
+class Importacao {
+public:
+    Importacao()
+        : m_insereMoeda(m_c.prepara(QStringLiteral("INSERT INTO MOEDA (CD_MOEDA, NM_MOEDA) VALUES (?, ?)"))),
+          m_procuraNcm(m_c.prepara(
+              QStringLiteral("SELECT CD_NCM_PRODUTO FROM NCM_ITEM WHERE CD_NCM_PRODUTO = ?"))),
+          m_insereNcm(m_c.prepara(QStringLiteral(
+              "INSERT INTO NCM_ITEM (CD_NCM_PRODUTO, DESCR_NCM_PRODUTO, NM_UNID_MED_EST) VALUES (?, ?, ?)"))),
+          m_alteraNcm(m_c.prepara(QStringLiteral(
+              "UPDATE NCM_ITEM SET DESCR_NCM_PRODUTO = ?, NM_UNID_MED_EST = ? WHERE CD_NCM_PRODUTO = ?"))),
+          m_procuraProduto(m_c.prepara(
+              QStringLiteral("SELECT CD_INT_PRODUTO FROM PRODUTO WHERE CD_INT_PRODUTO = ?"))),
+          m_insereProduto(m_c.prepara(
+              QStringLiteral("INSERT INTO PRODUTO (CD_INT_PRODUTO, NM_INT_PRODUTO) VALUES (?, ?)"))),
+          m_alteraProduto(m_c.prepara(
+              QStringLiteral("UPDATE PRODUTO SET NM_INT_PRODUTO = ? WHERE CD_INT_PRODUTO = ?"))),
+          m_insereUf(m_c.prepara(
+              QStringLiteral("INSERT INTO UNIDADE_FEDERATIVA (CD_UF_DESTINO, NM_UF) VALUES (?, ?)"))),
+          m_insereUnidade(m_c.prepara(
+              QStringLiteral("INSERT INTO UNIDADE_MEDIDA (CD_UNID_MEDIDA, NM_MEDIDA) VALUES (?, ?)")))
+    {
+    }
+
+    // Imports one line after the header; false for a line of an unknown type.
+    bool importa(QStringView linha)
+    {
+        const QStringView tipo = linha.left(2);
+        if (tipo == u"01") {
+            limpaUmaVez(QStringLiteral("DELETE FROM MOEDA"));
+            Comandos::executa(m_insereMoeda, {campo(linha, 3, 3), nome(linha, 6, 35)});
+        } else if (tipo == u"02") {
+            const QString codigo = campo(linha, 3, 8);
+            const QString descricao = nome(linha, 11, 80);
+            const QString unidade = nome(linha, 91, 50);
+            if (existe(m_procuraNcm, codigo))
+                Comandos::executa(m_alteraNcm, {descricao, unidade, codigo});
+            else
+                Comandos::executa(m_insereNcm, {codigo, descricao, unidade});
+        } else if (tipo == u"03") {
+            // The code is compared with its trailing blanks, exactly as it stands in the file; the key's index
+            // finds it, where the old routine walked the whole table for every line.
+            const QString codigo = campo(linha, 3, 15);
+            const QString descricao = nome(linha, 18, 80);
+            if (existe(m_procuraProduto, codigo))
+                Comandos::executa(m_alteraProduto, {descricao, codigo});
+            else
+                Comandos::executa(m_insereProduto, {codigo, descricao});
+        } else if (tipo == u"04") {
+            limpaUmaVez(QStringLiteral("DELETE FROM UNIDADE_FEDERATIVA"));
+            Comandos::executa(m_insereUf, {campo(linha, 3, 2), nome(linha, 5, 25)});
+        } else if (tipo == u"05") {
+            // Units are always inserted: the update branch of the old routine could never be chosen.
+            limpaUmaVez(QStringLiteral("DELETE FROM UNIDADE_MEDIDA"));
+            Comandos::executa(m_insereUnidade, {campo(linha, 3, 2), nome(linha, 5, 50)});
+        } else {
+            return false;
+        }
+        m_ultimoTipo = tipo.toString();
+        return true;
+    }
+
+    QString ultimoTipo() const { return m_ultimoTipo; }
+
+private:
+    // One flag serves the three replaced tables: only the first of them that a file meets is emptied, and the
+    // lines of the others are inserted over what those tables hold.
+    void limpaUmaVez(const QString& sql)
+    {
+        if (m_tabelaLimpa)
+            return;
+        QSqlQuery q = m_c.prepara(sql);
+        Comandos::executa(q, {});
+        m_tabelaLimpa = true;
+    }
+
+    static bool existe(QSqlQuery& q, const QString& codigo)
+    {
+        Comandos::executa(q, {codigo});
+        const bool achou = q.next();
+        q.finish();
+        return achou;
+    }
+
+    Comandos m_c;
+    QSqlQuery m_insereMoeda, m_procuraNcm, m_insereNcm, m_alteraNcm, m_procuraProduto, m_insereProduto,
+        m_alteraProduto, m_insereUf, m_insereUnidade;
+    bool m_tabelaLimpa = false;
+    QString m_ultimoTipo;
+};
+
+}  // namespace
+
+QString NomeTabela(const QString& tipo)
+{
+    if (tipo == QLatin1String("01"))
+        return QStringLiteral("moeda");
+    if (tipo == QLatin1String("02"))
+        return QStringLiteral("NCM");
+    if (tipo == QLatin1String("03"))
+        return QStringLiteral("produto");
+    if (tipo == QLatin1String("04"))
+        return QStringLiteral("unidade da federação");
+    if (tipo == QLatin1String("05"))
+        return QStringLiteral("unidade de medida comercial");
+    return QString();
+}
+
+Resultado ImportaTabela(const QString& pasta, const QString& nomeArquivo, const Progresso& progresso)
+{
+    QFile arquivo(pasta + QLatin1Char('/') + nomeArquivo);
+    if (!arquivo.open(QIODevice::ReadOnly)) {
+        MsgBox(QStringLiteral("Não foi possível abrir o arquivo ") + arquivo.fileName() + QStringLiteral("."),
+               Msg::Critical);
+        return Resultado::ArquivoInacessivel;
+    }
+    const QByteArray bytes = arquivo.readAll();
+    arquivo.close();
+    if (bytes.isEmpty()) {
+        MsgBox(TextoSemRegistros, Msg::Critical);
+        return Resultado::SemRegistros;
+    }
+
+    // Table files are Windows-1252 text, like the declaration files.
+    QStringDecoder decodificador("windows-1252");
+    const QString texto = decodificador.decode(bytes);
+    const QList<QStringView> linhas = divideLinhas(texto);
+
+    if (linhas.isEmpty() || !cabecalhoValido(linhas.first())
+        || modVRTPLN::ArquivoImportaTabela != QLatin1String("SIM")) {
+        MsgBox(TextoFormatoErrado, Msg::Critical, TituloPadrao);
+        return Resultado::FormatoErrado;
+    }
+
+    // One transaction for the whole file: one write to disk however many lines it holds.
+    modBancoDados::IniciaTransacao();
+    Importacao importacao;
+    const qsizetype total = linhas.size();
+    int ultimoPercentual = -1;
+    for (qsizetype i = 1; i < total; ++i) {
+        if (!importacao.importa(linhas.at(i))) {
+            // What was imported before the unexpected line stays.
+            modBancoDados::ConfirmaTransacao();
+            MsgBox(TextoRegistroInesperado, Msg::Critical);
+            if (progresso)
+                progresso(0);
+            return Resultado::RegistroInesperado;
+        }
+        if (progresso) {
+            const int percentual = int(i * 100 / total);
+            if (percentual != ultimoPercentual) {
+                ultimoPercentual = percentual;
+                progresso(percentual);
+            }
+        }
+    }
+    modBancoDados::ConfirmaTransacao();
+    if (progresso)
+        progresso(100);
+    MsgBox(QStringLiteral("Tabela de ") + NomeTabela(importacao.ultimoTipo())
+               + QStringLiteral(" importada com sucesso."),
+           Msg::OKOnly);
+    return Resultado::Sucesso;
+}
+
+}  // namespace modImportacao

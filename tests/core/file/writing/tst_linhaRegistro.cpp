@@ -1,0 +1,109 @@
+#include "core/file/layout/LayoutRegistro.h"
+#include "core/file/writing/LinhaRegistro.h"
+
+#include <QtTest>
+
+Q_DECLARE_METATYPE(TipoCampo)
+
+class tst_linhaRegistro : public QObject {
+    Q_OBJECT
+private slots:
+    void campoFormatadoPeloTipo_data();
+    void campoFormatadoPeloTipo();
+    void camposNaoPreenchidosFicamVaziosPeloTipo();
+    void valorLongoDemaisEmpurraOCampoSeguinteParaNovaLinha();
+    void valorCurtoComoEstaELevadoAteAColunaSeguinte();
+    void constanteDoRegistroPodeSerEscolhida();
+};
+
+namespace {
+CampoLayout campo(TipoCampo tipo, int tamanho)
+{
+    CampoLayout c;
+    c.posicao = 1;
+    c.tamanho = tamanho;
+    c.tipo = tipo;
+    c.constante = QString(tamanho, u'K');
+    return c;
+}
+}  // namespace
+
+void tst_linhaRegistro::campoFormatadoPeloTipo_data()
+{
+    QTest::addColumn<TipoCampo>("tipo");
+    QTest::addColumn<int>("tamanho");
+    QTest::addColumn<QString>("valor");
+    QTest::addColumn<QString>("campo");
+    using T = TipoCampo;
+    QTest::newRow("N com zeros à esquerda") << T::N << 6 << "123" << "000123";
+    QTest::newRow("N nulo vira zeros") << T::N << 3 << QString() << "000";
+    QTest::newRow("N longo não é cortado") << T::N << 3 << "123456" << "123456";
+    QTest::newRow("X com brancos à direita") << T::X << 5 << "AB" << "AB   ";
+    QTest::newRow("X nulo vira brancos") << T::X << 3 << QString() << "   ";
+    QTest::newRow("R com brancos à esquerda") << T::R << 6 << "123" << "   123";
+    QTest::newRow("D2 sem a vírgula") << T::D2 << 15 << "1234,56" << "000000000123456";
+    QTest::newRow("D5 com menos casas leva só os seus dígitos") << T::D5 << 14 << "5,5" << "00000000000055";
+    QTest::newRow("D7 vazio vira zeros") << T::D7 << 20 << "" << "00000000000000000000";
+    QTest::newRow("D2 com ponto de milhar guarda o ponto") << T::D2 << 15 << "1.234,56" << "000000001.23456";
+    QTest::newRow("DT de ddmmaaaa para aaaammdd") << T::DT << 8 << "31122008" << "20081231";
+    QTest::newRow("DT de zeros") << T::DT << 8 << "00000000" << "00000000";
+    QTest::newRow("DT nula vira zeros") << T::DT << 8 << QString() << "00000000";
+    QTest::newRow("K nulo dá a constante") << T::K << 2 << QString() << "KK";
+    QTest::newRow("A como está, sem preencher") << T::A << 14 << "123" << "123";
+}
+
+void tst_linhaRegistro::campoFormatadoPeloTipo()
+{
+    QFETCH(TipoCampo, tipo);
+    QFETCH(int, tamanho);
+    QFETCH(QString, valor);
+    QFETCH(QString, campo);
+    QCOMPARE(LinhaRegistro::formata(::campo(tipo, tamanho), valor), campo);
+}
+
+void tst_linhaRegistro::camposNaoPreenchidosFicamVaziosPeloTipo()
+{
+    const LinhaRegistro l(LayoutRegistro::de(TipoDeclaracao::Individual, QStringLiteral("34")));
+    QCOMPARE(l.texto(), QStringLiteral("34") + QString(14, u'0') + QString(5, u' ') + QString(6, u'0')
+                            + QString(3, u'0') + QString(8, u'0') + QString(4, u'0') + QStringLiteral(" ")
+                            + QString(14, u'0') + QString(20, u'0') + QString(15, u' ') + QStringLiteral("0"));
+    QCOMPARE(l.texto().size(), 93);
+}
+
+void tst_linhaRegistro::valorLongoDemaisEmpurraOCampoSeguinteParaNovaLinha()
+{
+    LinhaRegistro l(LayoutRegistro::de(TipoDeclaracao::Mensal, QStringLiteral("00")));
+    l.poeComoEsta(QStringLiteral("ORIGEM"), QStringLiteral("1"));
+    l.poe(QStringLiteral("CD_TIPO_VRT"), QStringLiteral("2"));
+    // Seven digits in the six positions 17-22: the next field, at 23, starts a new line at column 23.
+    l.poe(QStringLiteral("DT_REFERENCIA_VRT"), QStringLiteral("2008121"));
+    l.poe(QStringLiteral("NR_CNPJ_INTERNADOR"), QStringLiteral("12345678000195"));
+    QCOMPARE(l.texto(), QStringLiteral("00VRT/PLN102.0022008121\r\n") + QString(22, u' ') + QString(14, u'0')
+                            + QString(5, u' ') + QStringLiteral("000000") + QStringLiteral("12345678000195"));
+    QString texto;
+    // The column after the record is the one after its last field, on the line where that field stands.
+    QCOMPARE(l.compoeEm(texto, 1), 62);
+}
+
+void tst_linhaRegistro::valorCurtoComoEstaELevadoAteAColunaSeguinte()
+{
+    LinhaRegistro l(LayoutRegistro::de(TipoDeclaracao::Mensal, QStringLiteral("00")));
+    l.poeComoEsta(QStringLiteral("ORIGEM"), QStringLiteral("3"));
+    l.poe(QStringLiteral("CD_TIPO_VRT"), QString());
+    l.poe(QStringLiteral("NR_CNPJ_INTERNADOR"), QStringLiteral("123"));
+    // An empty "as stored" field leaves a blank at its column; a short one at the end leaves the line short.
+    QCOMPARE(l.texto(), QStringLiteral("00VRT/PLN302.00 000000") + QString(14, u'0') + QString(5, u' ')
+                            + QStringLiteral("000000123"));
+}
+
+void tst_linhaRegistro::constanteDoRegistroPodeSerEscolhida()
+{
+    LinhaRegistro l(LayoutRegistro::de(TipoDeclaracao::Mensal, QStringLiteral("31")));
+    QCOMPARE(l.valor(QStringLiteral("CD_LOCAL_DESTINO_2")), QStringLiteral("2"));
+    QCOMPARE(l.valor(QStringLiteral("TIPO_REGISTRO")), QStringLiteral("31"));
+    QCOMPARE(l.valor(QStringLiteral("ZEROS_3")), QStringLiteral("000"));
+    QVERIFY(l.layout().semFimDeLinha);
+}
+
+QTEST_GUILESS_MAIN(tst_linhaRegistro)
+#include "tst_linhaRegistro.moc"
