@@ -12,6 +12,14 @@ MaskedField::MaskedField(const QString& mask, const QString& name, QWidget* pare
     setInputMask(toInputMask(mask));
 }
 
+void MaskedField::setMask(const QString& mask)
+{
+    m_mask = mask;
+    m_positions = int(mask.count(QLatin1Char('#')));
+    clear();
+    setInputMask(toInputMask(mask));
+}
+
 QString MaskedField::toInputMask(const QString& oldMask)
 {
     static const QString metaCharacters = QStringLiteral("AaNnXx90DdHhBb#><![]{}\\;");

@@ -12,6 +12,8 @@ public:
     MaskedField(const QString& mask, const QString& name, QWidget* parent = nullptr);
 
     QString mask() const { return m_mask; }
+    // Another mask for the same field (a person's number as CNPJ or CPF); the text is emptied.
+    void setMask(const QString& mask);
     // The digits typed, without punctuation and blanks.
     QString digits() const;
     // Fills the field from digits (a stored value); an empty text empties it.

@@ -28,4 +28,27 @@ QString GeraIdentificacao(const QDate& hoje)
     return identificacao;
 }
 
+QString GeraIdentificacaoDoAno(const QDate& hoje)
+{
+    const int ano = hoje.year() % 100;
+    QSqlQuery rs(ConexaoBanco());
+    AbreConsulta(rs, QStringLiteral("SELECT NUM_ULTIMA_VRT, ANO FROM ARQUIVO_NUMERADOR"));
+    const bool existe = rs.next();
+    const bool mesmoAno = existe && rs.value(1).toInt() == ano;
+    rs.finish();
+    if (mesmoAno)
+        ExecutaSql(QStringLiteral("UPDATE ARQUIVO_NUMERADOR SET NUM_ULTIMA_VRT = NUM_ULTIMA_VRT + 1"));
+    else if (existe)
+        ExecutaSql(QStringLiteral("UPDATE ARQUIVO_NUMERADOR SET NUM_ULTIMA_VRT = 1, ANO = ?"), {ano});
+    else
+        ExecutaSql(QStringLiteral("INSERT INTO ARQUIVO_NUMERADOR (NUM_ULTIMA_VRT, ANO) VALUES (1, ?)"), {ano});
+    AbreConsulta(rs, QStringLiteral("SELECT NUM_ULTIMA_VRT, ANO FROM ARQUIVO_NUMERADOR"));
+    rs.next();
+    const QString id = QStringLiteral("%1/%2")
+                           .arg(rs.value(0).toLongLong(), 5, 10, QLatin1Char('0'))
+                           .arg(rs.value(1).toInt(), 2, 10, QLatin1Char('0'));
+    rs.finish();
+    return id;
+}
+
 }  // namespace Funcoes

@@ -11,4 +11,8 @@ namespace Funcoes {
 // the year of the last number. Past 99999 the number has six digits and the counter stored is its first five.
 QString GeraIdentificacao(const QDate& hoje = QDate::currentDate());
 
+// The editors' numbering: the counter plus one within the same year; at the first declaration of a new year the
+// counter starts again at 1 and ANO takes the new year. The identification is read back from the stored row.
+QString GeraIdentificacaoDoAno(const QDate& hoje = QDate::currentDate());
+
 }  // namespace Funcoes

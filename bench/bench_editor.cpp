@@ -1,0 +1,110 @@
+// Times the monthly editor on a large declaration: 10,000 items (national, two destinations each) and a full
+// values tab (every modality and type of both tables). Opening runs as the chooser's Abrir does (AbreTela and
+// FuncaoForm 2) until the editor is shown; saving is the main window's Salvar after a write. Prints the times
+// of several runs; never fails on time.
+#include "gui/assistants/frmAssistenteVRT.h"
+#include "gui/editor/BlocosValores.h"
+#include "core/session/MsgBox.h"
+#include "gui/shell/frmVRTPLN.h"
+#include "core/session/modVRTPLN.h"
+#include "core/store/modBancoDados.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QSqlQuery>
+#include <QTemporaryDir>
+#include <cstdio>
+
+namespace {
+
+using namespace modBancoDados;
+
+const QString Id = QStringLiteral("00001/09");
+const int Itens = 10000;
+
+void monta()
+{
+    Transacao t;
+    ExecutaSql(QStringLiteral("INSERT INTO VRT (ID_VRT_MICRO, CD_TIPO_VRT, NR_CNPJ_INTERNADOR, IND_MANDADO_JUDIC, "
+                              "NR_VRT, NR_PROC_ADM_FISCAL, IND_RESTITUICAO, IND_RETIFICACAO) VALUES "
+                              "(?, '2', '11222333000181', 'S', '', '', 'N', 'S')"),
+               {Id});
+    ExecutaSql(QStringLiteral("INSERT INTO VRT_MENSAL (ID_VRT_MICRO, DT_REFERENCIA_VRT) VALUES (?, '052009')"), {Id});
+    QSqlQuery item(ConexaoBanco());
+    item.prepare(QStringLiteral("INSERT INTO ITEM_VRT_MEN (ID_VRT_MICRO, CD_INT_PRODUTO, NM_INT_PRODUTO, "
+                                "CD_NCM_PRODUTO, NM_UNID_MED_PROD, IND_MOD_INTERNACAO, QT_PROD_UNID_EST, "
+                                "QT_PROD_UNID_PROD, VL_PROD_UNID_PROD) VALUES (?, ?, 'Produto', '17019900', 'KG', '4', "
+                                "'1,00000', '1,00000', '1,0000000')"));
+    QSqlQuery destino(ConexaoBanco());
+    destino.prepare(QStringLiteral("INSERT INTO DESTINO_ITEM_VRT_MEN (ID_ITEM_VRT, CD_LOCAL_DESTINO, QT_PROD_LOC_DEST) "
+                                   "VALUES (?, ?, '1,00000')"));
+    for (int i = 0; i < Itens; ++i) {
+        item.bindValue(0, Id);
+        item.bindValue(1, QStringLiteral("P%1").arg(i));
+        item.exec();
+        const QVariant chave = item.lastInsertId();
+        for (const char* local : {"1", "2"}) {
+            destino.bindValue(0, chave);
+            destino.bindValue(1, QLatin1String(local));
+            destino.exec();
+        }
+    }
+    for (int indice = 0; indice < 2; ++indice) {
+        const DescricaoBloco d = BlocosValores::Descricao(indice, [] { return true; });
+        for (const OpcaoLista& m : BlocosValores::Modalidades(indice, true))
+            for (const OpcaoLista& tipo : BlocosValores::Descricoes(indice, m.dado.toString(), true))
+                Bloco::Insere(d.dados, Id,
+                              {{d.dados.colunas.at(0), m.dado}, {d.dados.colunas.at(1), tipo.dado},
+                               {d.dados.colunas.at(2), m.texto}, {d.dados.colunas.at(3), tipo.texto},
+                               {d.dados.colunas.at(4), QStringLiteral("1234,56")}});
+    }
+    t.confirma();
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    InstalaManipuladorMsg(ManipuladorConsole);
+    QTemporaryDir pasta;
+    modVRTPLN::CaminhoAplicacao = pasta.path();
+    modVRTPLN::CaminhoDados = pasta.path();
+    QFile::copy(QStringLiteral(VRT_DELIVERED_DB), modVRTPLN::ArquivoBanco());
+    QFile(modVRTPLN::ArquivoBanco()).setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    ConectaBanco(modVRTPLN::ArquivoBanco());
+    monta();
+    const int valores = ValorUnico(QStringLiteral("SELECT (SELECT COUNT(*) FROM VALORES_DIVER_MANDADO) + "
+                                                  "(SELECT COUNT(*) FROM VALORES_DIVER_RETIF)")).toInt();
+    std::printf("Declaração mensal com %d itens e %d valores\n", Itens, valores);
+
+    RegistraTelas();
+    frmVRTPLN janela;
+    janela.carrega();
+    janela.show();
+    for (int rodada = 1; rodada <= 5; ++rodada) {
+        QElapsedTimer relogio;
+        relogio.start();
+        frmAssistenteVRT::IdVrtAbrir = Id;
+        janela.abreTela(modVRTPLN::Mensal);
+        janela.telaAberta()->FuncaoForm(2);
+        QApplication::processEvents();
+        const qint64 abrir = relogio.nsecsElapsed();
+        // One write, as an item's Incluir would make, then Salvar.
+        ExecutaSql(QStringLiteral("UPDATE VRT SET NR_BANCO_ARREC = ? WHERE ID_VRT_MICRO = ?"),
+                   {QString::number(rodada), Id});
+        modVRTPLN::AlteracaoPendente = true;
+        relogio.restart();
+        janela.acao(QStringLiteral("mnuDeclaracaoSalvar"))->trigger();
+        const qint64 salvar = relogio.nsecsElapsed();
+        std::printf("rodada %d: abrir até a tela mostrada %.1f ms; Salvar %.1f ms\n", rodada, abrir / 1e6,
+                    salvar / 1e6);
+        janela.fechaTela();
+        QApplication::processEvents();
+    }
+    return 0;
+}

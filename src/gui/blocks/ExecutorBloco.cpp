@@ -1,0 +1,366 @@
+#include "gui/blocks/ExecutorBloco.h"
+
+#include "core/rules/FormatoNumero.h"
+#include "core/session/MsgBox.h"
+#include "core/session/modVRTPLN.h"
+#include "gui/widgets/ConsultGrid.h"
+#include "gui/widgets/DigitField.h"
+#include "gui/widgets/MaskedField.h"
+#include "gui/blocks/QuatroBotoes.h"
+#include "gui/widgets/TextField.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+ListaBloco::ListaBloco(const QString& nome, QWidget* parent) : QComboBox(parent)
+{
+    setObjectName(nome);
+}
+
+void ListaBloco::showPopup()
+{
+    emit abrindo();
+    QComboBox::showPopup();
+}
+
+void ListaBloco::focusInEvent(QFocusEvent* event)
+{
+    QComboBox::focusInEvent(event);
+    emit abrindo();
+}
+
+ExecutorBloco::ExecutorBloco(DescricaoBloco descricao, std::function<QVariant()> pai, QObject* dono)
+    : QObject(dono), m_d(std::move(descricao)), m_pai(std::move(pai))
+{
+}
+
+QWidget* ExecutorBloco::criaCampo(const CampoBloco& c, QWidget* pai)
+{
+    QWidget* w = nullptr;
+    switch (c.tipo) {
+    case CampoBloco::Lista: {
+        auto* lista = new ListaBloco(c.nome, pai);
+        connect(lista, &ListaBloco::abrindo, this, [this, n = c.nome] { recarregaLista(n); });
+        connect(lista, &QComboBox::activated, this, [this, n = c.nome] { escolhida(n); });
+        w = lista;
+        break;
+    }
+    case CampoBloco::Decimal: {
+        auto* d = new DecimalField(c.familia, c.nome, QString(), pai);
+        if (!c.formato.isEmpty())
+            d->setDisplayFormat(c.formato);
+        w = d;
+        break;
+    }
+    case CampoBloco::Digitos:
+        w = new DigitField(c.nome, c.largura, pai);
+        break;
+    case CampoBloco::Mascara:
+        w = new MaskedField(c.formato, c.nome, pai);
+        break;
+    case CampoBloco::Texto:
+        w = new TextField(c.nome, c.largura, pai);
+        break;
+    }
+    if (c.larguraTela > 0)
+        w->setMinimumWidth(c.larguraTela);
+    return w;
+}
+
+void ExecutorBloco::constroi(QWidget* area)
+{
+    auto* coluna = new QVBoxLayout(area);
+    auto* linha = new QGridLayout;
+    for (int i = 0; i < m_d.campos.size(); ++i) {
+        const CampoBloco& c = m_d.campos.at(i);
+        QWidget* w = criaCampo(c, area);
+        m_campos.insert(c.nome, w);
+        auto* rotulo = new QLabel(c.rotulo, area);
+        rotulo->setBuddy(w);
+        linha->addWidget(rotulo, 0, i);
+        linha->addWidget(w, 1, i);
+        linha->setColumnStretch(i, c.tipo == CampoBloco::Lista ? 2 : 1);
+    }
+    coluna->addLayout(linha);
+    m_botoes = new QuatroBotoes(m_d.padraoBotoes, area);
+    coluna->addWidget(m_botoes);
+    m_quadro = new QGroupBox(m_d.tituloGrade, area);
+    auto* dentro = new QVBoxLayout(m_quadro);
+    m_grade = new ConsultGrid(m_quadro);
+    m_grade->setObjectName(m_d.nomeGrade);
+    // Column 0 stands empty, as in every consult grid of the editors.
+    QList<ConsultGrid::Column> colunas{{QString(), 20}};
+    for (const ColunaGrade& g : m_d.colunasGrade) {
+        const bool numero = !g.formato.isEmpty();
+        colunas.append({g.titulo, g.largura,
+                        numero ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter});
+    }
+    m_grade->setColumns(colunas);
+    // The grid takes the height the screen leaves it, a few rows at least, so that a tab of several blocks still
+    // opens inside the main window.
+    m_grade->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    m_grade->setMinimumHeight(m_grade->verticalHeader()->defaultSectionSize() * 3 + m_grade->horizontalHeader()->sizeHint().height() + 4);
+    dentro->addWidget(m_grade);
+    coluna->addWidget(m_quadro, 1);
+
+    connect(m_grade, &ConsultGrid::rowChosen, this, &ExecutorBloco::escolheLinha);
+    connect(m_botoes->cmdIncluir, &QPushButton::clicked, this, &ExecutorBloco::incluir);
+    connect(m_botoes->cmdAlterar, &QPushButton::clicked, this, &ExecutorBloco::alterar);
+    connect(m_botoes->cmdExcluir, &QPushButton::clicked, this, &ExecutorBloco::excluir);
+    connect(m_botoes->cmdLimpar, &QPushButton::clicked, this, &ExecutorBloco::limpar);
+}
+
+QStringList ExecutorBloco::colunasConsulta() const
+{
+    QStringList c;
+    for (const ColunaGrade& g : m_d.colunasGrade)
+        c << g.coluna;
+    return c;
+}
+
+int ExecutorBloco::colunaDaGrade(const QString& coluna) const
+{
+    for (int i = 0; i < m_d.colunasGrade.size(); ++i)
+        if (m_d.colunasGrade.at(i).coluna.compare(coluna, Qt::CaseInsensitive) == 0)
+            return i + 1;
+    return -1;
+}
+
+void ExecutorBloco::carrega()
+{
+    QList<QStringList> linhas;
+    const QVariant pai = m_pai();
+    if (!pai.toString().isEmpty()) {
+        linhas = Bloco::Linhas(m_d.dados, pai, colunasConsulta());
+        for (QStringList& l : linhas) {
+            for (int i = 0; i < l.size(); ++i)
+                if (!m_d.colunasGrade.at(i).formato.isEmpty())
+                    l[i] = Funcoes::FormataNumero(l.at(i), m_d.colunasGrade.at(i).formato);
+            l.prepend(QString());
+        }
+    }
+    m_grade->setRows(linhas);
+    m_chave.clear();
+    m_botoes->habilitaSelecao(false);
+}
+
+bool ExecutorBloco::temLinhas() const
+{
+    return m_grade->dataRowCount() > 0;
+}
+
+void ExecutorBloco::limpa()
+{
+    for (const CampoBloco& c : m_d.campos) {
+        QWidget* w = m_campos.value(c.nome);
+        if (auto* lista = qobject_cast<QComboBox*>(w))
+            lista->setCurrentIndex(-1);
+        else if (auto* edit = qobject_cast<QLineEdit*>(w))
+            edit->clear();
+    }
+}
+
+void ExecutorBloco::recarregaLista(const QString& nome)
+{
+    auto* lista = qobject_cast<QComboBox*>(m_campos.value(nome));
+    if (!lista || !m_d.opcoes)
+        return;
+    const QVariant escolha = lista->currentIndex() >= 0 ? lista->currentData() : QVariant();
+    const QList<OpcaoLista> opcoes = m_d.opcoes(nome, *this);
+    QSignalBlocker bloqueio(lista);
+    lista->clear();
+    for (const OpcaoLista& o : opcoes)
+        lista->addItem(o.texto, o.dado);
+    lista->setCurrentIndex(escolha.isValid() ? lista->findData(escolha) : -1);
+}
+
+void ExecutorBloco::escolhida(const QString& nomeLista)
+{
+    for (const CampoBloco& c : m_d.campos) {
+        if (c.dependeDe != nomeLista)
+            continue;
+        auto* lista = qobject_cast<QComboBox*>(m_campos.value(c.nome));
+        lista->setCurrentIndex(-1);
+        recarregaLista(c.nome);
+    }
+}
+
+void ExecutorBloco::habilitaCampos(bool ligado)
+{
+    for (QWidget* w : std::as_const(m_campos))
+        w->setEnabled(ligado);
+}
+
+void ExecutorBloco::preencheCampo(const CampoBloco& c, const QString& valor, const QString& texto)
+{
+    QWidget* w = m_campos.value(c.nome);
+    switch (c.tipo) {
+    case CampoBloco::Lista: {
+        auto* lista = qobject_cast<QComboBox*>(w);
+        recarregaLista(c.nome);
+        int i = c.coluna.isEmpty() ? -1 : lista->findData(valor);
+        // Without a code the entry is found by its trimmed text.
+        for (int k = 0; i < 0 && k < lista->count(); ++k)
+            if (lista->itemText(k).trimmed() == texto.trimmed())
+                i = k;
+        lista->setCurrentIndex(i);
+        break;
+    }
+    case CampoBloco::Decimal:
+        static_cast<DecimalField*>(w)->setValue(valor);
+        break;
+    case CampoBloco::Mascara:
+        static_cast<MaskedField*>(w)->setDigits(valor);
+        break;
+    default:
+        static_cast<QLineEdit*>(w)->setText(valor);
+        break;
+    }
+}
+
+void ExecutorBloco::escolheLinha(int linha)
+{
+    if (linha < 0 || linha >= m_grade->dataRowCount())
+        return;
+    m_chave.clear();
+    for (const QString& k : m_d.dados.chave)
+        m_chave << m_grade->cellText(linha, colunaDaGrade(k));
+    for (const CampoBloco& c : m_d.campos) {
+        const QString valor = m_grade->cellText(linha, colunaDaGrade(c.coluna));
+        const QString texto = c.colunaTexto.isEmpty() ? valor : m_grade->cellText(linha, colunaDaGrade(c.colunaTexto));
+        preencheCampo(c, valor, texto);
+    }
+    m_botoes->habilitaSelecao(true);
+}
+
+QVariant ExecutorBloco::valorCampo(const CampoBloco& c) const
+{
+    QWidget* w = m_campos.value(c.nome);
+    switch (c.tipo) {
+    case CampoBloco::Lista: {
+        auto* lista = qobject_cast<QComboBox*>(w);
+        return lista->currentIndex() >= 0 ? lista->currentData().toString() : QString();
+    }
+    case CampoBloco::Decimal:
+        return static_cast<DecimalField*>(w)->value();
+    case CampoBloco::Mascara:
+        return static_cast<MaskedField*>(w)->digits();
+    default:
+        return static_cast<QLineEdit*>(w)->text();
+    }
+}
+
+QVariantMap ExecutorBloco::valoresDosCampos() const
+{
+    QVariantMap v;
+    for (const CampoBloco& c : m_d.campos) {
+        if (!c.coluna.isEmpty())
+            v.insert(c.coluna, valorCampo(c));
+        if (!c.colunaTexto.isEmpty())
+            v.insert(c.colunaTexto, qobject_cast<QComboBox*>(m_campos.value(c.nome))->currentText());
+    }
+    return v;
+}
+
+QVariantList ExecutorBloco::chaveDosCampos() const
+{
+    const QVariantMap v = valoresDosCampos();
+    QVariantList chave;
+    for (const QString& k : m_d.dados.chave)
+        chave << v.value(k);
+    return chave;
+}
+
+void ExecutorBloco::recusa(const QString& texto, QWidget* foco)
+{
+    MsgBox(texto, Msg::OKOnly | Msg::Critical);
+    if (foco && foco->isEnabled())
+        foco->setFocus(Qt::OtherFocusReason);
+}
+
+bool ExecutorBloco::validaCampos()
+{
+    for (const CampoBloco& c : m_d.campos) {
+        if (c.msgVazio.isEmpty())
+            continue;
+        const QString v = valorCampo(c).toString();
+        const bool vazio = v.trimmed().isEmpty() || (c.tipo == CampoBloco::Decimal && Funcoes::EhZero(v));
+        if (vazio) {
+            recusa(c.msgVazio, m_campos.value(c.nome));
+            return false;
+        }
+    }
+    return true;
+}
+
+void ExecutorBloco::incluir()
+{
+    if (!validaCampos())
+        return;
+    if (Bloco::Existe(m_d.dados, m_pai(), chaveDosCampos())) {
+        recusa(m_d.msgDuplicado, m_botoes->cmdIncluir);
+        return;
+    }
+    modVRTPLN::AlteracaoPendente = true;
+    Bloco::Insere(m_d.dados, m_pai(), valoresDosCampos());
+    carrega();
+    limpa();
+}
+
+void ExecutorBloco::alterar()
+{
+    if (m_chave.isEmpty()) {
+        recusa(m_d.msgSemSelecao, m_botoes->cmdAlterar);
+        return;
+    }
+    if (!validaCampos())
+        return;
+    const QVariantList nova = chaveDosCampos();
+    QStringList a, b;
+    for (const QVariant& v : nova)
+        a << v.toString();
+    for (const QVariant& v : std::as_const(m_chave))
+        b << v.toString();
+    // The duplicate test runs only when the key is not the chosen row's own.
+    if (a != b && Bloco::Existe(m_d.dados, m_pai(), nova)) {
+        recusa(m_d.msgDuplicado, m_botoes->cmdAlterar);
+        return;
+    }
+    modVRTPLN::AlteracaoPendente = true;
+    Bloco::Altera(m_d.dados, m_pai(), m_chave, valoresDosCampos());
+    carrega();
+    limpa();
+}
+
+void ExecutorBloco::excluir()
+{
+    if (m_chave.isEmpty()) {
+        recusa(m_d.msgSemSelecao, m_botoes->cmdExcluir);
+        return;
+    }
+    if (MsgBox(QStringLiteral("Deseja realmente excluir?"), Msg::YesNo | Msg::Information) != Msg::Yes)
+        return;
+    modVRTPLN::AlteracaoPendente = true;
+    Bloco::Exclui(m_d.dados, m_pai(), m_chave);
+    limpa();
+    carrega();
+}
+
+void ExecutorBloco::limpar()
+{
+    limpa();
+    carrega();
+}
+
+void ExecutorBloco::excluiTodos()
+{
+    if (!temLinhas())
+        return;
+    Bloco::ExcluiTodos(m_d.dados, m_pai());
+    modVRTPLN::AlteracaoPendente = true;
+    carrega();
+}
