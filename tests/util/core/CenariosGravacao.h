@@ -259,9 +259,9 @@ inline void insereIndividualCompleta(const QString& id = QStringLiteral("00013/0
     insere(QStringLiteral("JUST_DIF_ALIQ_PROD_VRT_IND"),
            {{"ID_ITEM", i1}, {"JUST_II_DIF_TEC", "Motivo II"}, {"ALIQ_II_DIF_TEC", "4,00"},
             {"JUST_IPI_DIF_TIPI", " "}, {"ALIQ_IPI_DIF_TIPI", " "}});
-    const auto nfa = [&](const char* numero, const char* item, const QVariant& obsoleto, const char* quantidade) {
+    const auto nfa = [&](const char* numero, const char* itemNf, const QVariant& obsoleto, const char* quantidade) {
         insere(QStringLiteral("ITEM_NFA_PE_IND"),
-               {{"ID_ITEM", i1}, {"NR_NF_AQUIS", numero}, {"NR_SERIE_NF_AQUIS", "1"}, {"NR_ITEM_NF_AQUIS", item},
+               {{"ID_ITEM", i1}, {"NR_NF_AQUIS", numero}, {"NR_SERIE_NF_AQUIS", "1"}, {"NR_ITEM_NF_AQUIS", itemNf},
                 {"DT_EMISS_NF_AQUIS", "02012009"}, {"CD_CFOP_NF_AQUIS", "3102"},
                 {"NR_CNPJ_FORNECEDOR", "11222333000181"}, {"IND_DL_288_67", "S"}, {"IND_OBSOLE_RESIDUO", obsoleto},
                 {"VL_TOT_PROD_INT", "10,00"}, {"VL_INS_PROD_UNID_NFS", "75,0000000"},
