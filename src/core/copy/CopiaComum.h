@@ -24,6 +24,7 @@ public:
     CopiadorLinhas& linhas() { return *m_linhas; }
 
 private:
+    QString numeroVrt() const;
     Pedido m_pedido;
     QString m_nova;
     const Acompanhamento& m_acompanhamento;

@@ -49,6 +49,13 @@ CopiaEmCurso::CopiaEmCurso(const Pedido& pedido, const Acompanhamento& acompanha
         m_acompanhamento.inicio();
 }
 
+// NR_VRT is the field's text, trimmed: empty, never Null, when the field is.
+QString CopiaEmCurso::numeroVrt() const
+{
+    const QString numero = m_pedido.numeroVrt.trimmed();
+    return numero.isNull() ? QStringLiteral("") : numero;
+}
+
 void CopiaEmCurso::copiaCabeca()
 {
     static const char* const copiadas =
@@ -59,7 +66,7 @@ void CopiaEmCurso::copiaCabeca()
     m_linhas->executa(QStringLiteral("INSERT INTO VRT (ID_VRT_MICRO, NR_VRT, %1, NR_PROC_ADM_FISCAL, IND_RESTITUICAO, "
                                      "IND_RETIFICACAO) SELECT ?, ?, %1, '', 'N', ? FROM VRT WHERE ID_VRT_MICRO = ?")
                           .arg(lista),
-                      {m_nova, m_pedido.numeroVrt.trimmed(), retificadora() ? QStringLiteral("S") : QStringLiteral("N"),
+                      {m_nova, numeroVrt(), retificadora() ? QStringLiteral("S") : QStringLiteral("N"),
                        m_pedido.origem});
     const QString id = QStringLiteral("ID_VRT_MICRO");
     if (retificadora())
