@@ -9,6 +9,7 @@
 #include <QStringList>
 
 class ConsultGrid;
+class PainelCopiaVrt;
 class QGroupBox;
 class QPushButton;
 
@@ -37,6 +38,7 @@ public:
     ConsultGrid* grdAssistenteVRT;
     QPushButton* cmdOk;
     QPushButton* cmdCancela;
+    PainelCopiaVrt* FraAssistenteVRT_Copia;
 
 private:
     void carregaLista(int coluna, const QString& direcao);
@@ -46,6 +48,8 @@ private:
     void grava(const QString& identificacao);
     void abre(const QString& identificacao, const QString& tipo);
     void fecha();
+    void abreCopia();
+    void fechaCopia();
 
     int m_acao = Abrir;
     QStringList m_direcao;
