@@ -14,12 +14,12 @@ OpcoesCli OpcoesCli::le(const QStringList& args)
         const QString& a = args.at(i);
         if (a == s("--help") || a == s("-h") || a == s("ajuda")) {
             o.ajuda = true;
-        } else if (a == s("--banco") || a == s("--pasta")) {
+        } else if (a == s("--banco") || a == s("--pasta") || a == s("--retificacao")) {
             if (i + 1 >= args.size()) {
                 o.erro = s("a opção ") + a + s(" precisa de um valor");
                 return o;
             }
-            (a == s("--banco") ? o.banco : o.pasta) = args.at(++i);
+            (a == s("--banco") ? o.banco : a == s("--pasta") ? o.pasta : o.retificacao) = args.at(++i);
         } else if (a == s("--backup")) {
             o.backup = true;
         } else if (a == s("--restaurar")) {
@@ -37,7 +37,8 @@ OpcoesCli OpcoesCli::le(const QStringList& args)
     }
     if (o.ajuda)
         return o;
-    const QStringList comandos = {s("gravar"), s("importar"), s("listar"), s("verificar"), s("tabela")};
+    const QStringList comandos = {s("copiar"), s("gravar"), s("importar"), s("listar"), s("verificar"),
+                                 s("tabela")};
     if (o.comando.isEmpty()) {
         o.erro = s("falta o comando");
     } else if (!comandos.contains(o.comando)) {
@@ -50,6 +51,9 @@ OpcoesCli OpcoesCli::le(const QStringList& args)
     } else if (o.comando == s("importar") || o.comando == s("verificar") || o.comando == s("tabela")) {
         if (o.argumentos.size() != 1)
             o.erro = o.comando + s(" precisa de exatamente um ARQUIVO");
+    } else if (o.comando == s("copiar")) {
+        if (o.argumentos.size() != 1)
+            o.erro = s("copiar precisa de exatamente uma identificação");
     } else if (o.comando == s("listar") && !o.argumentos.isEmpty()) {
         o.erro = s("listar não recebe argumentos");
     }
@@ -60,6 +64,8 @@ OpcoesCli OpcoesCli::le(const QStringList& args)
         o.erro = s("--backup serve só a gravar");
     if (o.erro.isEmpty() && !o.pasta.isEmpty() && o.comando != s("gravar"))
         o.erro = s("--pasta serve só a gravar");
+    if (o.erro.isEmpty() && !o.retificacao.isNull() && o.comando != s("copiar"))
+        o.erro = s("--retificacao serve só a copiar");
     return o;
 }
 
@@ -71,6 +77,10 @@ QString TextoAjuda()
              "do programa (PLN_VRT_v2.mdb ao lado do executável, salvo --banco).\n"
              "\n"
              "Comandos:\n"
+             "  copiar ID [--retificacao NUMERO]\n"
+             "        copia a declaração inteira com a próxima identificação, que sai em stdout: sem opção, como\n"
+             "        \"Original\" (nova declaração, com o mês de referência ou a nota fiscal a preencher); com\n"
+             "        --retificacao, como \"Retificadora\", com NUMERO (AA/NNNNNNN-D) como número da VRT\n"
              "  gravar ID... --pasta DIR [--backup]\n"
              "        grava as declarações para transmissão (origem 1) ou, com --backup, como backup (origem 3),\n"
              "        um arquivo por declaração, com o nome da identificação sem a barra (00012/09 -> 0001209)\n"

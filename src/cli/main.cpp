@@ -1,4 +1,5 @@
 // vrt-cli: the command-line companion of the program, for batch work on the same database.
+#include "cli/ComandoCopiar.h"
 #include "cli/ComandoTabela.h"
 #include "cli/ComandosCli.h"
 #include "cli/OpcoesCli.h"
@@ -38,6 +39,8 @@ int main(int argc, char** argv)
     }
     if (!ComandosCli::AbreBanco(arquivo))
         return 1;
+    if (opcoes.comando == QStringLiteral("copiar"))
+        return ComandosCli::Copiar(opcoes);
     if (opcoes.comando == QStringLiteral("gravar"))
         return ComandosCli::Gravar(opcoes);
     if (opcoes.comando == QStringLiteral("importar"))

@@ -1,6 +1,7 @@
 #include "gui/assistants/frmAssistenteVRT.h"
 
 #include "core/lookups/ListaDeclaracoes.h"
+#include "gui/assistants/PainelCopiaVrt.h"
 #include "gui/assistants/frmManipulaArquivo.h"
 #include "core/session/MsgBox.h"
 #include "gui/screens/Telas.h"
@@ -49,6 +50,9 @@ frmAssistenteVRT::frmAssistenteVRT(QWidget* pai) : TelaFilha(pai)
     grdAssistenteVRT->setMinimumSize(870, 300);
     quadro->addWidget(grdAssistenteVRT);
     principal->addWidget(fraAssistenteVRT, 1);
+    FraAssistenteVRT_Copia = new PainelCopiaVrt(this);
+    principal->addWidget(FraAssistenteVRT_Copia, 1);
+    connect(FraAssistenteVRT_Copia, &PainelCopiaVrt::fechado, this, &frmAssistenteVRT::fechaCopia);
 
     principal->addLayout(okCancelRow(this, cmdOk, cmdCancela));
     // Enter works as Ok, on the list too; Escape as Cancela.
@@ -112,8 +116,10 @@ void frmAssistenteVRT::grdAssistenteVRT_DblClick()
     case GravarBackup:
         grava(identificacao);
         break;
+    case Copiar:
+        abreCopia();
+        break;
     default:
-        // The copy panel comes with the declaration copy.
         break;
     }
 }
@@ -157,4 +163,26 @@ void frmAssistenteVRT::fecha()
         janela->close();
     else
         close();
+}
+
+void frmAssistenteVRT::abreCopia()
+{
+    const auto coluna = [this](int c) { return grdAssistenteVRT->currentText(c); };
+    FraAssistenteVRT_Copia->abre(coluna(ListaDeclaracoes::Identificacao).trimmed(), coluna(ListaDeclaracoes::Tipo),
+                                 coluna(ListaDeclaracoes::Internador), coluna(ListaDeclaracoes::Criacao));
+    fraAssistenteVRT->setEnabled(false);
+    fraAssistenteVRT->hide();
+    cmdOk->hide();
+    cmdCancela->hide();
+}
+
+// After a copy or a cancel: the list again, ascending by identifier.
+void frmAssistenteVRT::fechaCopia()
+{
+    fraAssistenteVRT->setEnabled(true);
+    fraAssistenteVRT->show();
+    cmdOk->show();
+    cmdCancela->show();
+    cmdCancela->setEnabled(true);
+    carregaLista(ListaDeclaracoes::Identificacao, QString());
 }

@@ -10,6 +10,7 @@
 #include <QStringList>
 
 class ConsultGrid;
+class PainelCopiaVrt;
 class QGroupBox;
 class QPushButton;
 
@@ -38,6 +39,7 @@ public:
     ConsultGrid* grdAssistenteVRT;
     QPushButton* cmdOk;
     QPushButton* cmdCancela;
+    PainelCopiaVrt* FraAssistenteVRT_Copia;
 
 private:
     void carregaLista(int coluna, const QString& direcao);
@@ -47,6 +49,8 @@ private:
     void grava(const QString& identificacao);
     void abre(const QString& identificacao, const QString& tipo);
     void fecha();
+    void abreCopia();
+    void fechaCopia();
 
     int m_acao = Abrir;
     QStringList m_direcao;
