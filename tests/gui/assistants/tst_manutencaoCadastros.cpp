@@ -613,6 +613,9 @@ private slots:
                      .toString(),
                  longa.left(79) + QLatin1Char('1'));
         MensagensRoteiro msgs;
+        msgs.responde(Msg::No);
+        QTest::mouseClick(c.cancela, Qt::LeftButton);
+    }
 
     // Quotes, semicolons, percent signs, backslashes and Windows-1252 letters typed into the fields are stored
     // and read back as typed; the apostrophe (and in codes every special character) and what Windows-1252
