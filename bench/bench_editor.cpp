@@ -2,6 +2,7 @@
 // values tab (every modality and type of both tables). Opening runs as the chooser's Abrir does (AbreTela and
 // FuncaoForm 2) until the editor is shown; saving is the main window's Salvar after a write. Prints the times
 // of several runs; never fails on time.
+#include "app/RegistroTelas.h"
 #include "gui/assistants/frmAssistenteVRT.h"
 #include "gui/editor/BlocosValores.h"
 #include "core/session/MsgBox.h"
