@@ -1,5 +1,7 @@
 #include "cli/ComandoCopiar.h"
 
+#include "core/store/Cadastros.h"
+
 #include "cli/ManipuladorCli.h"
 #include "core/copy/CopiaVrt.h"
 #include "core/file/numbering/IdentificacaoPrevista.h"
@@ -47,8 +49,8 @@ int Copiar(const OpcoesCli& opcoes)
     ManipuladorCli manipulador;
     InstalaManipuladorMsg(std::ref(manipulador));
     const QString origem = opcoes.argumentos.at(0).trimmed();
-    const QVariant tipo = modBancoDados::ValorUnico(s("SELECT CD_TIPO_VRT FROM VRT WHERE ID_VRT_MICRO = ?"), {origem});
-    if (!tipo.isValid()) {
+    const QString tipo = Cadastros::TipoVrt(origem);
+    if (tipo.isNull()) {
         std::fprintf(stderr, "vrt-cli: %s\n", (s("identificação não encontrada: ") + origem).toUtf8().constData());
         return 1;
     }
@@ -59,7 +61,7 @@ int Copiar(const OpcoesCli& opcoes)
         pedido.tipo = CopiaVrt::Tipo::Retificadora;
     }
     // The chooser's "Tipo" column: "Individual" for type 1, "Mensal" for any other.
-    if (tipo.toString().trimmed() == QLatin1String("1"))
+    if (tipo.trimmed() == QLatin1String("1"))
         CopiaVrt::ExecutaCopiaVrtIndividual(pedido);
     else
         CopiaVrt::ExecutaCopiaVrtMensal(pedido);

@@ -121,6 +121,23 @@ bool ExisteVrt(const QString& identificacao)
         .isValid();
 }
 
+QString TipoVrt(const QString& identificacao)
+{
+    const QVariant tipo =
+        modBancoDados::ValorUnico(QStringLiteral("SELECT CD_TIPO_VRT FROM VRT WHERE ID_VRT_MICRO = ?"), {identificacao});
+    return tipo.isValid() ? tipo.toString() : QString();
+}
+
+QStringList CodigosUf()
+{
+    QSqlQuery rs(modBancoDados::ConexaoBanco());
+    modBancoDados::AbreConsulta(rs, QStringLiteral("SELECT CD_UF_DESTINO FROM UNIDADE_FEDERATIVA ORDER BY CD_UF_DESTINO"));
+    QStringList codigos;
+    while (rs.next())
+        codigos << rs.value(0).toString();
+    return codigos;
+}
+
 void ExcluiVrt(const QString& identificacao)
 {
     modBancoDados::Transacao transacao(modBancoDados::Transacao::JuntaSeAberta);

@@ -42,6 +42,11 @@ void ExcluiUnidade(const QString& codigo);
 
 // Whether a declaration of this identification exists.
 bool ExisteVrt(const QString& identificacao);
+// The type of a declaration ("1" individual, "2" monthly, or what else is stored); a null text when it does not
+// exist.
+QString TipoVrt(const QString& identificacao);
+// The codes of the states, in order, for the lists of the screens.
+QStringList CodigosUf();
 // Removes a declaration; the cascades of the schema take every row that hangs on it.
 void ExcluiVrt(const QString& identificacao);
 

@@ -1,5 +1,7 @@
 #include "gui/editor/AbaNotaSaida.h"
 
+#include "core/store/Cadastros.h"
+
 #include "gui/editor/LarguraCampo.h"
 #include "core/rules/Datas.h"
 #include "core/rules/DigitoVerificador.h"
@@ -125,11 +127,8 @@ void AbaNotaSaida::constroiDestino()
 
 void AbaNotaSaida::carregaUf()
 {
-    QSqlQuery rs(modBancoDados::ConexaoBanco());
-    modBancoDados::AbreConsulta(rs, QStringLiteral("SELECT CD_UF_DESTINO FROM UNIDADE_FEDERATIVA ORDER BY CD_UF_DESTINO"));
     cboUF->clear();
-    while (rs.next())
-        cboUF->addItem(rs.value(0).toString());
+    cboUF->addItems(Cadastros::CodigosUf());
     cboUF->setCurrentIndex(-1);
 }
 

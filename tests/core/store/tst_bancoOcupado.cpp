@@ -54,6 +54,7 @@ private slots:
     {
         BancoTeste banco;
         MensagensRoteiro msgs;
+        msgs.responde(Msg::OK);
         QString fim;
         {
             OutroPrograma outro(banco.arquivo());
@@ -74,6 +75,7 @@ private slots:
         cadastraNcmsDosRegistros();
         grava(banco.pasta() + t("/arquivo"), bytes(cabecalhoMensal() + QStringList{r41(t("P1"), t("Fio"), t("M"))}));
         MensagensRoteiro msgs;
+        msgs.responde(Msg::OK);
         QString fim;
         {
             OutroPrograma outro(banco.arquivo());

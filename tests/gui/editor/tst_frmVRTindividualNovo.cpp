@@ -169,6 +169,9 @@ private slots:
             n.saida = QString();
             n.cfop = valor;
         }
+        // A zero CNPJ is refused already as its field is left, before the tab's own check.
+        if (campo == QLatin1String("cnpj"))
+            a.msgs.responde(Msg::OK);
         preenche(a, n);
         a.msgs.limpa();
         a.msgs.responde(Msg::OK);

@@ -91,7 +91,7 @@ QString RegistroLido::lido(const CampoLayout& c) const
     const QString t = naoNulo(c.de(m_linha));
     switch (c.leitura) {
     case LeituraCampo::ComoEsta: return t;
-    case LeituraCampo::Aparado: return naoNulo(t.trimmed());
+    case LeituraCampo::Aparado: return naoNulo(Funcoes::TiraBrancos(t));
     case LeituraCampo::ZerosVazio: return soZeros(t) ? QString(QLatin1String("")) : t;
     case LeituraCampo::SemZerosEsquerda: return naoNulo(tiraZerosEsquerda(t));
     case LeituraCampo::Decimal: return naoNulo(Funcoes::InsereVirgula(tiraZerosEsquerda(t), c.casas()));

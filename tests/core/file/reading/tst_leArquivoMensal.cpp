@@ -361,15 +361,14 @@ private slots:
         QCOMPARE(BancoTeste::conta(t("ITEM_DI_INS_MEN")), 0);
     }
 
-    void registro12AntesDeQualquer11EncerraSemDeixarNada()
+    void registro12AntesDeQualquer11RecusaOArquivoSemDeixarNada()
     {
         MensagensRoteiro msgs;
         msgs.responde(Msg::OK);
-        // No destination to hang on: the engine refuses the row and the run ends, rolling back what was read.
-        QVERIFY(!numeroDoFim([&] { leDaMemoria(bytes(cabecalhoMensal() + QStringList{r12()})); }).isEmpty());
-        QCOMPARE(msgs.caixas.size(), 1);
-        QVERIFY(msgs.caixas[0].texto.startsWith(t("Error #")));
-        QCOMPARE(msgs.caixas[0].titulo, t("BDTrataErro"));
+        // No destination to hang on: the engine refuses the row, and the file is refused at that line.
+        QVERIFY(numeroDoFim([&] { leDaMemoria(bytes(cabecalhoMensal() + QStringList{r12()})); }).isEmpty());
+        QCOMPARE(msgs.textos(),
+                 QStringList{t("Erro no 5º registro (registro 12) - Registro não aceito pelo banco de dados!")});
         QCOMPARE(BancoTeste::conta(t("VRT")), 0);
         QCOMPARE(BancoTeste::conta(t("ARQUIVO_NUMERADOR")), 0);
     }

@@ -60,6 +60,7 @@ private slots:
         QFETCH(QString, mensagem);
         const QStringList antes = retratoDoBanco();
         MensagensRoteiro msgs;
+        msgs.responde(Msg::OK);
         bool lido = true;
         const QString fim = numeroDoFim([&] { lido = le(bytes(linhas)); });
         QCOMPARE(fim, QString());
