@@ -4,6 +4,7 @@
 #include "gui/editor/AbaDadosGerais.h"
 #include "gui/editor/AbaNotaSaida.h"
 #include "gui/editor/AbaValores.h"
+#include "gui/items/AbaProdutoEstrangeiro.h"
 #include "core/file/numbering/GeraIdentificacao.h"
 #include "core/session/MsgBox.h"
 #include "gui/screens/Telas.h"
@@ -70,13 +71,16 @@ void EditorDeclaracao::constroiAbas()
     tabDeclaracao->addTab(geral, QStringLiteral("Dados Gerais"));
     // The item tabs, filled by the item entry of each modality.
     const char* legendas[] = {"&Produto Estrangeiro", "PI com PPB", "PI sem PPB", "100% Nacional"};
+    produtoEstrangeiro = new AbaProdutoEstrangeiro(m_config.individual, [this] { return m_copia.idVrt; },
+                                                   [this] { return m_copiaNota.idNfs; });
     for (int i = 0; i < 4; ++i) {
-        auto* pagina = new QWidget;
+        QWidget* pagina = i == 0 ? produtoEstrangeiro : new QWidget;
         pagina->setObjectName(QStringLiteral("tabDeclaracao(%1)").arg(i + 1));
         tabDeclaracao->addTab(pagina, QString::fromUtf8(legendas[i]));
     }
 
     connect(tabDeclaracao, &QTabWidget::currentChanged, this, &EditorDeclaracao::tabDeclaracao_Click);
+    connect(produtoEstrangeiro, &AbaProdutoEstrangeiro::mostraAba, this, [this] { tabDeclaracao->setCurrentIndex(1); });
     for (int i = 0; i < 2; ++i)
         connect(dadosGerais->ChkMand_Retif[i], &QCheckBox::clicked, this, [this, i] { ChkMand_Retif_Click(i); });
     connect(dadosGerais->chkSimRest, &QCheckBox::clicked, this, &EditorDeclaracao::chkSimRest_Click);
@@ -219,6 +223,8 @@ void EditorDeclaracao::tabDeclaracao_Click(int nova)
     }
     AtualizaDadosGerais();
     m_abaAtual = nova;
+    if (nova == 1)
+        produtoEstrangeiro->entra();
 }
 
 void EditorDeclaracao::mostraAbaValores(int indice, bool visivel)

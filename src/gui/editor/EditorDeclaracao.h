@@ -7,6 +7,7 @@
 
 class AbaDadosGerais;
 class AbaNotaSaida;
+class AbaProdutoEstrangeiro;
 class AbaValores;
 class QTabWidget;
 
@@ -43,6 +44,7 @@ public:
     AbaDadosGerais* dadosGerais = nullptr;
     AbaNotaSaida* notaSaida = nullptr;  // the individual editor only
     AbaValores* valores = nullptr;
+    AbaProdutoEstrangeiro* produtoEstrangeiro = nullptr;
 
 protected:
     void closeEvent(QCloseEvent* evento) override;

@@ -139,6 +139,23 @@ struct Ambiente {
         sai(QStringLiteral("txtDadosGerais(1)"));
     }
 
+    // The individual general data and exit invoice, filled and valid, set straight into the fields.
+    void preencheIndividual()
+    {
+        const QList<QPair<const char*, QString>> campos{
+            {"mskDadosGerais(1)", Cnpj},          {"mskDadosGerais(2)", QStringLiteral("12345678")},
+            {"mskDadosGeraisIndividual(3)", QStringLiteral("123")},
+            {"txtDadosGeraisIndividual(1)", QStringLiteral("A1")},
+            {"mskDadosGeraisIndividual(0)", QStringLiteral("10052009")},
+            {"mskDadosGeraisIndividual(1)", QStringLiteral("11052009")},
+            {"txtDadosGeraisIndividual(2)", QStringLiteral("5102")},
+            {"mskDadosGeraisIndividual(2)", QStringLiteral("33000167000101")}};
+        for (const auto& [nome, texto] : campos)
+            campo<QLineEdit>(QString::fromUtf8(nome))->setText(texto);
+        auto* uf = campo<QComboBox>(QStringLiteral("cboUF"));
+        uf->setCurrentIndex(uf->findText(QStringLiteral("AM")));
+    }
+
     // A value row through the block's own buttons.
     void incluiValor(int i, const QString& modalidade, const QString& descricao, const QString& valor)
     {

@@ -1,0 +1,580 @@
+#include "gui/items/QuadroDocumento.h"
+
+#include "core/rules/DigitoVerificador.h"
+#include "core/rules/Formatadores.h"
+#include "core/rules/FormatoNumero.h"
+#include "core/session/MsgBox.h"
+#include "core/session/modVRTPLN.h"
+#include "core/store/Cadastros.h"
+#include "gui/assistants/DestinosEscolha.h"
+#include "gui/assistants/frmAssistMoeda.h"
+#include "gui/blocks/RegraSaida.h"
+#include "gui/widgets/ConsultGrid.h"
+#include "gui/widgets/DecimalField.h"
+#include "gui/widgets/DigitField.h"
+#include "gui/widgets/MaskedField.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+namespace {
+
+Papel moeda(int i)
+{
+    return static_cast<Papel>(static_cast<int>(Papel::Moeda0) + i);
+}
+
+Papel valor(int i)
+{
+    return static_cast<Papel>(static_cast<int>(Papel::Valor0) + i);
+}
+
+bool soDigitos(const QString& v)
+{
+    for (const QChar c : v)
+        if (!c.isDigit())
+            return false;
+    return !v.isEmpty();
+}
+
+const QString RotuloQuantidade = QString::fromUtf8("Quant. comercial em ");
+
+}  // namespace
+
+QuadroDocumento::QuadroDocumento(const MembroDocumento& membro, QWidget* parent) : QWidget(parent), m_m(membro)
+{
+    auto* coluna = new QVBoxLayout(this);
+    coluna->setContentsMargins(0, 0, 0, 0);
+    coluna->addWidget(constroiCampos());
+    quadroGrade = new QGroupBox(this);
+    auto* dentro = new QVBoxLayout(quadroGrade);
+    grade = new ConsultGrid(quadroGrade);
+    grade->setObjectName(m_m.nomeGrade);
+    QList<ConsultGrid::Column> colunas{{QString(), 20}};
+    for (const ColunaDocumento& c : m_m.grade)
+        colunas.append({c.titulo, c.largura});
+    colunas.append({m_m.dados.colunaId, 0});
+    grade->setColumns(colunas);
+    grade->setMinimumHeight(90);
+    dentro->addWidget(grade);
+    coluna->addWidget(quadroGrade, 1);
+    liga();
+    limpa();
+}
+
+void QuadroDocumento::adiciona(Papel papel, QWidget* campo, const QString& rotulo, QWidget* area, QGridLayout* g,
+                               int linha, int coluna)
+{
+    campo->setObjectName(m_m.nomes.value(papel));
+    m_campos.insert(papel, campo);
+    auto* r = new QLabel(rotulo, area);
+    r->setBuddy(campo);
+    m_rotulos.insert(papel, r);
+    g->addWidget(r, linha, coluna);
+    g->addWidget(campo, linha + 1, coluna);
+}
+
+QWidget* QuadroDocumento::constroiCampos()
+{
+    quadroCampos = new QGroupBox(this);
+    quadroCampos->setObjectName(m_m.nomeQuadro);
+    auto* g = new QGridLayout(quadroCampos);
+    const auto tem = [this](Papel p) { return m_m.nomes.contains(p); };
+    const auto nome = [this](Papel p) { return m_m.nomes.value(p); };
+
+    auto* eletronica = new QGroupBox(QString::fromUtf8("Eletrônica"), quadroCampos);
+    auto* opcoes = new QHBoxLayout(eletronica);
+    for (Papel p : {Papel::Sim, Papel::Nao}) {
+        auto* o = new QRadioButton(p == Papel::Sim ? QStringLiteral("Sim") : QString::fromUtf8("Não"), eletronica);
+        o->setObjectName(nome(p));
+        m_campos.insert(p, o);
+        opcoes->addWidget(o);
+    }
+    g->addWidget(eletronica, 0, 0, 2, 1);
+
+    int c = 1;
+    adiciona(Papel::Numero, new MaskedField(QStringLiteral("##/#######-#"), nome(Papel::Numero)),
+             QString::fromUtf8("Número"), quadroCampos, g, 0, c++);
+    const QList<QPair<Papel, QString>> partes{{Papel::Ano, QStringLiteral("Ano")},
+                                             {Papel::Orgao, QString::fromUtf8("Órgão")},
+                                             {Papel::Sequencial, QString::fromUtf8("Seqüencial")},
+                                             {Papel::Adicao, QString::fromUtf8("Adição")},
+                                             {Papel::ItemAdicao, QStringLiteral("Item")},
+                                             {Papel::NumeroBem, QString::fromUtf8("Número do bem")}};
+    const QMap<Papel, int> larguras{{Papel::Ano, 2}, {Papel::Orgao, 7}, {Papel::Sequencial, 6},
+                                    {Papel::Adicao, 3}, {Papel::ItemAdicao, 2}, {Papel::NumeroBem, 3}};
+    for (const auto& [p, rotulo] : partes)
+        if (tem(p))
+            adiciona(p, new DigitField(nome(p), larguras.value(p)), rotulo, quadroCampos, g, 0, c++);
+    adiciona(Papel::Quantidade, new DecimalField(DecimalField::Quantity, nome(Papel::Quantidade), m_m.msgZeroDecimal),
+             RotuloQuantidade, quadroCampos, g, 0, c++);
+    m_rotulos.value(Papel::Quantidade)->setObjectName(m_m.nomeRotuloQuantidade);
+
+    auto* checks = new QHBoxLayout;
+    const QList<QPair<Papel, QString>> caixas{{Papel::DecretoLei, QStringLiteral("Decreto-Lei 288/67")},
+                                             {Papel::Obsolescencia, m_m.rotulos.value(Papel::Obsolescencia)},
+                                             {Papel::Suspensao, m_m.rotulos.value(Papel::Suspensao)}};
+    for (const auto& [p, rotulo] : caixas) {
+        if (!tem(p))
+            continue;
+        auto* caixa = new QCheckBox(rotulo, quadroCampos);
+        caixa->setObjectName(nome(p));
+        m_campos.insert(p, caixa);
+        checks->addWidget(caixa);
+    }
+    checks->addStretch(1);
+    g->addLayout(checks, 2, 0, 1, c);
+    if (tem(Papel::ValorTotal))
+        adiciona(Papel::ValorTotal, new DecimalField(DecimalField::TotalValue, nome(Papel::ValorTotal), m_m.msgZeroDecimal),
+                 QStringLiteral("Valor total (R$)"), quadroCampos, g, 3, 0);
+    auto* blocos = new QHBoxLayout;
+    for (int i = 0; i < m_m.titulosBlocos.size(); ++i)
+        blocos->addWidget(constroiBloco(i));
+    g->addLayout(blocos, 5, 0, 1, c);
+    return quadroCampos;
+}
+
+QWidget* QuadroDocumento::constroiBloco(int i)
+{
+    auto* bloco = new QGroupBox(m_m.titulosBlocos.at(i), quadroCampos);
+    m_blocos << bloco;
+    auto* g = new QGridLayout(bloco);
+    auto* cod = new DigitField(m_m.nomes.value(moeda(i)), 3, bloco);
+    // Freight and insurance may be zero (a block of value "0" without a currency is kept as it stands); the
+    // product's own value may not.
+    auto* val = new DecimalField(DecimalField::UnitValue, m_m.nomes.value(valor(i)), i == 0 ? m_m.msgZeroDecimal : QString(),
+                                 bloco);
+    auto* botao = new QPushButton(QStringLiteral("..."), bloco);
+    botao->setObjectName(QString(m_m.nomes.value(moeda(i))).replace(0, 3, QStringLiteral("cmd")));
+    botao->setMaximumWidth(30);
+    m_campos.insert(moeda(i), cod);
+    m_campos.insert(valor(i), val);
+    g->addWidget(new QLabel(QStringLiteral("Moeda"), bloco), 0, 0);
+    g->addWidget(cod, 1, 0);
+    g->addWidget(botao, 1, 1);
+    g->addWidget(new QLabel(QString::fromUtf8("Valor unitário na medida comercial"), bloco), 0, 2);
+    g->addWidget(val, 1, 2);
+    DestinosEscolha::moeda().registra(m_m.chavesMoeda.value(i), cod, nullptr, this);
+    connect(botao, &QPushButton::clicked, this,
+            [this, i] { frmAssistMoeda::Escolhe(m_m.chavesMoeda.value(i), window()); });
+    connect(cod, &QLineEdit::textChanged, this, [this, i] { confereMoeda(i); });
+    return bloco;
+}
+
+void QuadroDocumento::liga()
+{
+    auto* sim = qobject_cast<QRadioButton*>(campo(Papel::Sim));
+    connect(sim, &QRadioButton::toggled, this, &QuadroDocumento::eletronica_Click);
+    auto* numero = qobject_cast<MaskedField*>(campo(Papel::Numero));
+    connect(numero, &QLineEdit::textChanged, this, [this, numero] {
+        if (!m_carregando && numero->isComplete())
+            confereNumero();
+    });
+    aoSair(numero, [this, numero] { return numero->isBlank() || confereNumero(); });
+    for (auto i = m_m.regras.cbegin(); i != m_m.regras.cend(); ++i)
+        if (QWidget* w = campo(i.key()))
+            aoSair(w, [this, p = i.key()] { return confereDigitos(p); });
+    if (auto* dl = qobject_cast<QCheckBox*>(campo(Papel::DecretoLei))) {
+        connect(dl, &QCheckBox::toggled, this, [this](bool ligado) {
+            if (auto* obs = qobject_cast<QCheckBox*>(campo(Papel::Obsolescencia))) {
+                if (!ligado)
+                    obs->setChecked(false);
+                obs->setEnabled(ligado);
+            }
+            habilitaValores();
+        });
+    }
+    if (auto* obs = qobject_cast<QCheckBox*>(campo(Papel::Obsolescencia))) {
+        connect(obs, &QCheckBox::toggled, this, [this](bool ligado) {
+            if (QWidget* total = campo(Papel::ValorTotal)) {
+                static_cast<QLineEdit*>(total)->clear();
+                total->setEnabled(ligado);
+            }
+            habilitaValores();
+        });
+    }
+    if (auto* susp = qobject_cast<QCheckBox*>(campo(Papel::Suspensao)))
+        connect(susp, &QCheckBox::toggled, this, &QuadroDocumento::habilitaValores);
+    connect(grade, &ConsultGrid::rowChosen, this, &QuadroDocumento::escolheLinha);
+}
+
+// "Não" shows the old number's parts and takes the suspension away; "Sim" shows the electronic number.
+void QuadroDocumento::eletronica_Click()
+{
+    const bool sim = eletronica();
+    for (Papel p : {Papel::Ano, Papel::Orgao, Papel::Sequencial}) {
+        if (sim)
+            poe(p, QString());
+        campo(p)->setVisible(!sim);
+        m_rotulos.value(p)->setVisible(!sim);
+    }
+    if (!sim)
+        poe(Papel::Numero, QString());
+    campo(Papel::Numero)->setVisible(sim);
+    m_rotulos.value(Papel::Numero)->setVisible(sim);
+    if (auto* susp = qobject_cast<QCheckBox*>(campo(Papel::Suspensao))) {
+        if (!sim)
+            susp->setChecked(false);
+        susp->setEnabled(sim);
+    }
+}
+
+bool QuadroDocumento::marcado(Papel p) const
+{
+    auto* c = qobject_cast<QCheckBox*>(campo(p));
+    return c && c->isChecked();
+}
+
+bool QuadroDocumento::eletronica() const
+{
+    return qobject_cast<QRadioButton*>(campo(Papel::Sim))->isChecked();
+}
+
+bool QuadroDocumento::vale(Condicao c) const
+{
+    const bool dl = marcado(Papel::DecretoLei);
+    const bool susp = marcado(Papel::Suspensao);
+    switch (c) {
+    case Condicao::Decreto:
+        return dl;
+    case Condicao::DecretoOuSuspensao:
+        return dl || susp;
+    case Condicao::DecretoSemObsolescenciaOuSuspensao:
+        return (dl && !marcado(Papel::Obsolescencia)) || susp;
+    case Condicao::Suspensao:
+        return susp;
+    }
+    return false;
+}
+
+void QuadroDocumento::habilitaValores()
+{
+    const bool ligado = vale(m_m.habilitacao);
+    for (int i = 0; i < m_blocos.size(); ++i) {
+        m_blocos.at(i)->setEnabled(ligado);
+        for (Papel p : {moeda(i), valor(i)}) {
+            if (!ligado)
+                poe(p, QString());
+            campo(p)->setEnabled(ligado);
+        }
+    }
+}
+
+bool QuadroDocumento::recusa(const QString& texto, Papel foco)
+{
+    MsgBox(texto, Msg::OKOnly | Msg::Critical);
+    if (QWidget* w = campo(foco); w && w->isEnabled() && w->isVisible())
+        w->setFocus(Qt::OtherFocusReason);
+    return false;
+}
+
+bool QuadroDocumento::confereNumero()
+{
+    const QString d = qobject_cast<MaskedField*>(campo(Papel::Numero))->digits();
+    if (Funcoes::EhZero(d) || !Funcoes::ValidaDigito(d, m_m.tipoDigito)) {
+        MsgBox(m_m.msgNumeroInvalido, Msg::OKOnly | Msg::Critical);
+        return false;
+    }
+    return true;
+}
+
+bool QuadroDocumento::confereDigitos(Papel p)
+{
+    const RegraDigitos r = m_m.regras.value(p);
+    const QString v = texto(p).trimmed();
+    if (v.isEmpty())
+        return true;
+    bool formatoBom = soDigitos(v) && (r.largura == 0 || v.size() == r.largura);
+    if (formatoBom && (r.minimo >= 0 || r.maximo >= 0)) {
+        const int n = v.toInt();
+        formatoBom = (r.minimo < 0 || n >= r.minimo) && (r.maximo < 0 || n <= r.maximo);
+    }
+    const bool zero = soDigitos(v) && Funcoes::EhZero(v);
+    const auto falha = [](const QString& msg) {
+        MsgBox(msg, Msg::OKOnly | Msg::Critical);
+        return false;
+    };
+    if (r.formatoAntes && !r.msgFormato.isEmpty() && !formatoBom)
+        return falha(r.msgFormato);
+    if (zero && !r.msgZero.isEmpty())
+        return falha(r.msgZero);
+    if (!r.formatoAntes && !r.msgFormato.isEmpty() && !formatoBom)
+        return falha(r.msgFormato);
+    if (r.completa > 0)
+        poe(p, Funcoes::ZeroEsquerda(v, r.completa));
+    return true;
+}
+
+void QuadroDocumento::confereMoeda(int i)
+{
+    auto* cod = static_cast<QLineEdit*>(campo(moeda(i)));
+    if (m_carregando || cod->text().size() < 3)
+        return;
+    if (!Cadastros::Existe(Cadastros::Moeda(), cod->text())) {
+        MsgBox(QStringLiteral("Código de Moeda não encontrado!"), Msg::OKOnly | Msg::Critical);
+        cod->selectAll();
+    }
+}
+
+QString QuadroDocumento::texto(Papel p) const
+{
+    QWidget* w = campo(p);
+    if (auto* d = qobject_cast<DecimalField*>(w))
+        return d->value();
+    if (auto* mf = qobject_cast<MaskedField*>(w))
+        return mf->digits();
+    if (auto* c = qobject_cast<QCheckBox*>(w))
+        return c->isChecked() ? QStringLiteral("S") : QStringLiteral("N");
+    if (auto* l = qobject_cast<QLineEdit*>(w))
+        return l->text();
+    return QString();
+}
+
+void QuadroDocumento::poe(Papel p, const QString& v)
+{
+    QWidget* w = campo(p);
+    if (auto* d = qobject_cast<DecimalField*>(w))
+        d->setValue(v);
+    else if (auto* mf = qobject_cast<MaskedField*>(w))
+        mf->setDigits(v);
+    else if (auto* c = qobject_cast<QCheckBox*>(w))
+        c->setChecked(v == QLatin1String("S"));
+    else if (auto* l = qobject_cast<QLineEdit*>(w))
+        l->setText(v);
+}
+
+bool QuadroDocumento::valida()
+{
+    if (eletronica()) {
+        auto* numero = qobject_cast<MaskedField*>(campo(Papel::Numero));
+        if (numero->isBlank())
+            return recusa(m_m.msgNumeroVazio, Papel::Numero);
+        if (!m_m.msgNumeroCurto.isEmpty() && !numero->isComplete())
+            return recusa(m_m.msgNumeroCurto, Papel::Numero);
+    } else {
+        for (Papel p : {Papel::Ano, Papel::Orgao, Papel::Sequencial})
+            if (texto(p).trimmed().isEmpty())
+                return recusa(m_m.msgAntigaVazia, Papel::Ano);
+    }
+    for (const auto& [p, msg] : m_m.exigidos)
+        if (texto(p).trimmed().isEmpty())
+            return recusa(msg, p);
+    if (QWidget* total = campo(Papel::ValorTotal); total && total->isEnabled() && texto(Papel::ValorTotal).isEmpty())
+        return recusa(m_m.msgTotalVazio, Papel::ValorTotal);
+    const QString moedaNula = QStringLiteral("O campo moeda não pode ser nulo.");
+    const QString naoEncontrada = QStringLiteral("Código de Moeda não encontrado!");
+    const QString valorNulo = QString::fromUtf8("O campo valor unitário não pode ser nulo.");
+    for (int i = 0; i < m_blocos.size(); ++i) {
+        if (!campo(valor(i))->isEnabled())
+            continue;
+        const QString cod = texto(moeda(i)).trimmed();
+        const QString val = texto(valor(i));
+        const bool semValor = val.isEmpty() || Funcoes::EhZero(val);
+        if (i > 0 && cod.isEmpty()) {
+            // Freight and insurance are optional: an empty block is a block of value zero.
+            if (val.isEmpty())
+                poe(valor(i), QStringLiteral("0"));
+            else if (!semValor)
+                return recusa(moedaNula, moeda(i));
+            continue;
+        }
+        if (cod.isEmpty())
+            return recusa(moedaNula, moeda(i));
+        if (!Cadastros::Existe(Cadastros::Moeda(), cod))
+            return recusa(naoEncontrada, moeda(i));
+        if (semValor)
+            return recusa(valorNulo, valor(i));
+    }
+    return true;
+}
+
+QVariantMap QuadroDocumento::linha() const
+{
+    QVariantMap l;
+    for (auto i = m_m.colunas.cbegin(); i != m_m.colunas.cend(); ++i)
+        l.insert(i.value().toUpper(), texto(i.key()));
+    const bool sim = eletronica();
+    if (!sim)
+        l.insert(m_m.colunas.value(Papel::Numero).toUpper(), QString());
+    l.insert(m_m.colunaNumeroAntiga.toUpper(),
+             sim ? QString() : texto(Papel::Ano) + texto(Papel::Orgao) + texto(Papel::Sequencial));
+    return l;
+}
+
+QVariantMap QuadroDocumento::criterio() const
+{
+    const QVariantMap l = linha();
+    const QString numero = (eletronica() ? m_m.colunas.value(Papel::Numero) : m_m.colunaNumeroAntiga).toUpper();
+    QVariantMap c{{numero, l.value(numero)}};
+    for (Papel p : m_m.chaveDuplicado) {
+        const QString col = m_m.colunas.value(p).toUpper();
+        c.insert(col, l.value(col));
+    }
+    return c;
+}
+
+void QuadroDocumento::definePai(const QVariantList& pai, const QMap<QString, QString>& textos)
+{
+    m_pai = pai;
+    m_textosPai = textos;
+}
+
+void QuadroDocumento::defineUnidade(const QString& unidade)
+{
+    if (QLabel* r = m_rotulos.value(Papel::Quantidade))
+        r->setText(RotuloQuantidade + unidade);
+}
+
+void QuadroDocumento::carrega()
+{
+    QList<QStringList> linhas;
+    if (!m_pai.isEmpty()) {
+        for (const QVariantMap& l : DocumentoEntrada::Linhas(m_m.dados, m_pai)) {
+            QStringList celulas{QString()};
+            for (const ColunaDocumento& c : m_m.grade) {
+                QString v = c.fonte.startsWith(QLatin1Char('#')) ? m_textosPai.value(c.fonte)
+                                                                 : l.value(c.fonte.toUpper()).toString();
+                if (!c.formato.isEmpty() && !v.trimmed().isEmpty())
+                    v = Funcoes::Formata(v, c.formato);
+                celulas << v;
+            }
+            celulas << l.value(m_m.dados.colunaId.toUpper()).toString();
+            linhas << celulas;
+        }
+    }
+    grade->setRows(linhas);
+    m_id = 0;
+    m_escolhida.clear();
+    emit selecaoMudou(false);
+}
+
+void QuadroDocumento::limpa()
+{
+    m_carregando = true;
+    for (QWidget* w : std::as_const(m_campos))
+        if (auto* l = qobject_cast<QLineEdit*>(w))
+            l->clear();
+    for (Papel p : {Papel::Suspensao, Papel::Obsolescencia, Papel::DecretoLei})
+        if (auto* c = qobject_cast<QCheckBox*>(campo(p)))
+            c->setChecked(false);
+    qobject_cast<QRadioButton*>(campo(Papel::Sim))->setChecked(true);
+    eletronica_Click();
+    if (auto* obs = campo(Papel::Obsolescencia))
+        obs->setEnabled(false);
+    if (auto* total = campo(Papel::ValorTotal))
+        total->setEnabled(false);
+    habilitaValores();
+    m_carregando = false;
+}
+
+void QuadroDocumento::escolheLinha(int linha)
+{
+    if (linha < 0 || linha >= grade->dataRowCount())
+        return;
+    const qint64 id = grade->cellText(linha, m_m.grade.size() + 1).toLongLong();
+    const QVariantMap l = DocumentoEntrada::Le(m_m.dados, id);
+    if (l.isEmpty())
+        return;
+    mostra(l);
+    m_id = id;
+    m_escolhida = l;
+    emit selecaoMudou(true);
+}
+
+void QuadroDocumento::mostra(const QVariantMap& l)
+{
+    m_carregando = true;
+    const QString antiga = l.value(m_m.colunaNumeroAntiga.toUpper()).toString().trimmed();
+    qobject_cast<QRadioButton*>(campo(antiga.isEmpty() ? Papel::Sim : Papel::Nao))->setChecked(true);
+    eletronica_Click();
+    if (!antiga.isEmpty()) {
+        poe(Papel::Ano, antiga.mid(0, 2));
+        poe(Papel::Orgao, antiga.mid(2, 7));
+        poe(Papel::Sequencial, antiga.mid(9));
+    }
+    // The checks first, so that their enabling rules run before the values they let in are shown.
+    for (Papel p : {Papel::DecretoLei, Papel::Obsolescencia, Papel::Suspensao})
+        if (m_m.colunas.contains(p))
+            poe(p, l.value(m_m.colunas.value(p).toUpper()).toString());
+    habilitaValores();
+    for (auto i = m_m.colunas.cbegin(); i != m_m.colunas.cend(); ++i) {
+        const Papel p = i.key();
+        if (p != Papel::DecretoLei && p != Papel::Obsolescencia && p != Papel::Suspensao)
+            poe(p, l.value(i.value().toUpper()).toString());
+    }
+    m_carregando = false;
+}
+
+bool QuadroDocumento::incluir()
+{
+    if (!m_m.msgSemPai.isEmpty() && m_pai.isEmpty()) {
+        MsgBox(m_m.msgSemPai, Msg::OKOnly | Msg::Critical);
+        return false;
+    }
+    if (m_pai.isEmpty() || !valida())
+        return false;
+    if (DocumentoEntrada::Existe(m_m.dados, m_pai, criterio())) {
+        const bool sim = eletronica();
+        return recusa(sim ? m_m.msgDuplicadoEletronica : m_m.msgDuplicadoAntiga, sim ? Papel::Numero : Papel::Ano);
+    }
+    modVRTPLN::AlteracaoPendente = true;
+    const QVariantMap l = linha();
+    const qint64 id = DocumentoEntrada::Insere(m_m.dados, m_pai, l);
+    if (!m_m.dados.tabelaValores.isEmpty() && vale(m_m.filhaNaInclusao))
+        DocumentoEntrada::GravaValores(m_m.dados, id, l);
+    carrega();
+    limpa();
+    return true;
+}
+
+bool QuadroDocumento::alterar()
+{
+    if (m_id == 0) {
+        if (!m_m.msgSemSelecaoAlterar.isEmpty())
+            MsgBox(m_m.msgSemSelecaoAlterar, Msg::OKOnly | Msg::Critical);
+        return false;
+    }
+    if (!valida())
+        return false;
+    if (!m_m.msgDuplicadoAlteracao.isEmpty()) {
+        const QVariantMap c = criterio();
+        bool mudou = false;
+        for (auto i = c.cbegin(); i != c.cend(); ++i)
+            mudou = mudou || i.value().toString().trimmed() != m_escolhida.value(i.key()).toString().trimmed();
+        if (mudou && DocumentoEntrada::Existe(m_m.dados, m_pai, c))
+            return recusa(m_m.msgDuplicadoAlteracao, eletronica() ? Papel::Numero : Papel::Ano);
+    }
+    modVRTPLN::AlteracaoPendente = true;
+    const QVariantMap l = linha();
+    DocumentoEntrada::Altera(m_m.dados, m_id, l);
+    if (!m_m.dados.tabelaValores.isEmpty()) {
+        if (vale(m_m.filhaNaAlteracao))
+            DocumentoEntrada::GravaValores(m_m.dados, m_id, l);
+        else
+            DocumentoEntrada::ExcluiValores(m_m.dados, m_id);
+    }
+    carrega();
+    limpa();
+    return true;
+}
+
+bool QuadroDocumento::excluir()
+{
+    if (m_id == 0) {
+        MsgBox(m_m.msgSemSelecaoExcluir, Msg::OKOnly | Msg::Critical);
+        return false;
+    }
+    if (MsgBox(QStringLiteral("Deseja realmente excluir?"), Msg::YesNo | Msg::Information) != Msg::Yes)
+        return false;
+    modVRTPLN::AlteracaoPendente = true;
+    DocumentoEntrada::Exclui(m_m.dados, m_id);
+    limpa();
+    carrega();
+    return true;
+}
