@@ -113,18 +113,6 @@ QStringList LocaisDoItem(qint64 idItem)
     return locais;
 }
 
-bool ExcluiDestino(qint64 idDestino)
-{
-    const qint64 item =
-        ValorUnico(QStringLiteral("SELECT ID_ITEM_VRT FROM DESTINO_ITEM_VRT_MEN WHERE ID_DEST_PRODUTO = ?"), {idDestino})
-            .toLongLong();
-    ExecutaSql(QStringLiteral("DELETE FROM DESTINO_ITEM_VRT_MEN WHERE ID_DEST_PRODUTO = ?"), {idDestino});
-    if (!LocaisDoItem(item).isEmpty())
-        return false;
-    ExecutaSql(QStringLiteral("DELETE FROM ITEM_VRT_MEN WHERE ID_ITEM_VRT = ?"), {item});
-    return true;
-}
-
 Aliquotas AliquotasMensais(qint64 idItem)
 {
     return aliquotas(QStringLiteral("JUST_DIF_ALIQ_PROD_VRT_MEN"), QStringLiteral("ID_ITEM_VRT"), idItem);
@@ -230,27 +218,3 @@ QList<QVariantMap> LinhasNota(qint64 idNfs)
 
 }  // namespace ItemProdutoEstrangeiro
 
-namespace ItemProdutoEstrangeiro {
-
-QList<QPair<QString, QString>> LocaisDestino()
-{
-    QList<QPair<QString, QString>> locais;
-    for (const QVariantMap& m : mapas(QStringLiteral("SELECT CD_LOCAL_DESTINO, NM_LOCAL_DESTINO FROM LOCAL_DESTINO "
-                                                     "ORDER BY NM_LOCAL_DESTINO"), {}))
-        locais.append({m.value(QStringLiteral("CD_LOCAL_DESTINO")).toString(),
-                       m.value(QStringLiteral("NM_LOCAL_DESTINO")).toString()});
-    return locais;
-}
-
-}  // namespace ItemProdutoEstrangeiro
-
-namespace ItemProdutoEstrangeiro {
-
-bool NumeroDeItemUsado(qint64 idNfs, const QString& numero)
-{
-    return ValorUnico(QStringLiteral("SELECT 1 FROM ITEM_NFS WHERE ID_NFS = ? AND NR_ITEM_NF_SAIDA = ?"),
-                      {idNfs, numero})
-        .isValid();
-}
-
-}  // namespace ItemProdutoEstrangeiro

@@ -45,8 +45,6 @@ qint64 InsereDestino(qint64 idItem, const QString& local, const QString& quantid
 void AlteraDestino(qint64 idDestino, const QString& local, const QString& quantidade);
 // The location codes of the item's destinations.
 QStringList LocaisDoItem(qint64 idItem);
-// Deletes the destination, and the item with it when it was its last; true when the item went.
-bool ExcluiDestino(qint64 idDestino);
 Aliquotas AliquotasMensais(qint64 idItem);
 // Rewrites the item's row of rates, or inserts it.
 void GravaAliquotasMensais(qint64 idItem, const Aliquotas& a);
@@ -71,14 +69,4 @@ void ExcluiAliquotasNota(qint64 idItem);
 // and the four of the rates.
 QList<QVariantMap> LinhasNota(qint64 idNfs);
 
-}  // namespace ItemProdutoEstrangeiro
-
-namespace ItemProdutoEstrangeiro {
-// The places of destination, code and name, in order of name.
-QList<QPair<QString, QString>> LocaisDestino();
-}  // namespace ItemProdutoEstrangeiro
-
-namespace ItemProdutoEstrangeiro {
-// An item of the exit invoice, of any modality, already has this number.
-bool NumeroDeItemUsado(qint64 idNfs, const QString& numero);
 }  // namespace ItemProdutoEstrangeiro

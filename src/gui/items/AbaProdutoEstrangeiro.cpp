@@ -3,34 +3,32 @@
 #include "gui/items/PaginaDocumentoOrigem.h"
 #include "gui/items/PaginaProdutoIndividual.h"
 #include "gui/items/PaginaProdutoMensal.h"
+#include "gui/widgets/FieldFocus.h"
 
 #include <QTabWidget>
 #include <QVBoxLayout>
 
-AbaProdutoEstrangeiro::AbaProdutoEstrangeiro(bool individual, std::function<QString()> idVrt,
-                                             std::function<qint64()> idNfs, QWidget* parent)
-    : QWidget(parent)
+AbaProdutoEstrangeiro::AbaProdutoEstrangeiro(const ContextoItens& contexto, QWidget* parent)
+    : AbaItens(contexto, QStringLiteral("tabProdutoEstrangeiro_NFS"), parent)
 {
-    auto* coluna = new QVBoxLayout(this);
-    coluna->setContentsMargins(0, 0, 0, 0);
     tabProdutoEstrangeiro = new QTabWidget(this);
     tabProdutoEstrangeiro->setObjectName(QStringLiteral("tabProdutoEstrangeiro"));
     QWidget* produto = nullptr;
-    if (individual) {
-        produtoIndividual = new PaginaProdutoIndividual(idVrt, idNfs);
+    if (contexto.individual) {
+        produtoIndividual = new PaginaProdutoIndividual(contexto.idVrt, contexto.idNfs);
         connect(produtoIndividual, &PaginaProdutoIndividual::mostraPagina, this, &AbaProdutoEstrangeiro::mostraProduto);
         produto = produtoIndividual;
     } else {
-        produtoMensal = new PaginaProdutoMensal(idVrt);
+        produtoMensal = new PaginaProdutoMensal(contexto.idVrt);
         connect(produtoMensal, &PaginaProdutoMensal::mostraPagina, this, &AbaProdutoEstrangeiro::mostraProduto);
         produto = produtoMensal;
     }
     produto->setObjectName(QStringLiteral("tabProdutoEstrangeiro(0)"));
-    documentoOrigem = new PaginaDocumentoOrigem(individual, std::move(idVrt), std::move(idNfs));
+    documentoOrigem = new PaginaDocumentoOrigem(contexto.individual, contexto.idVrt, contexto.idNfs);
     documentoOrigem->setObjectName(QStringLiteral("tabProdutoEstrangeiro(1)"));
     tabProdutoEstrangeiro->addTab(produto, QStringLiteral("Produto"));
     tabProdutoEstrangeiro->addTab(documentoOrigem, QString::fromUtf8("Documento de Origem"));
-    coluna->addWidget(tabProdutoEstrangeiro);
+    corpo()->addWidget(tabProdutoEstrangeiro, 1);
     connect(tabProdutoEstrangeiro, &QTabWidget::currentChanged, this, &AbaProdutoEstrangeiro::trocaPagina);
     connect(documentoOrigem, &PaginaDocumentoOrigem::voltaProduto, this, [this] {
         m_voltando = true;
@@ -39,19 +37,35 @@ AbaProdutoEstrangeiro::AbaProdutoEstrangeiro(bool individual, std::function<QStr
     });
 }
 
-void AbaProdutoEstrangeiro::entra()
+void AbaProdutoEstrangeiro::carrega()
 {
     if (produtoMensal)
         produtoMensal->CarregaGridPE();
     else
         produtoIndividual->CarregaGridPE();
+}
+
+void AbaProdutoEstrangeiro::repopula()
+{
+    if (produtoMensal)
+        produtoMensal->LimpaCamposPE();
+    else
+        produtoIndividual->LimpaCamposPENFS();
+    carrega();
+}
+
+void AbaProdutoEstrangeiro::aoEntrar()
+{
+    AbaItens::aoEntrar();
+    carrega();
     if (tabProdutoEstrangeiro->currentIndex() == 1)
         documentoOrigem->entra();
 }
 
+// A check of the page "Produto" failed: the tab and the page come to the front.
 void AbaProdutoEstrangeiro::mostraProduto()
 {
-    emit mostraAba();
+    showFieldTab(tabProdutoEstrangeiro);
     m_voltando = true;
     tabProdutoEstrangeiro->setCurrentIndex(0);
     m_voltando = false;

@@ -1,31 +1,27 @@
 #pragma once
-// The tab "Produto Estrangeiro" of both editors: the page "Produto" (monthly or individual) and the page
-// "Documento de Origem".
-#include <QWidget>
-#include <functional>
+// The tab "Produto Estrangeiro" of both editors: under the invoice head of the individual editor, the page
+// "Produto" (monthly or individual) and the page "Documento de Origem".
+#include "gui/items/AbaItens.h"
 
 class PaginaDocumentoOrigem;
 class PaginaProdutoIndividual;
 class PaginaProdutoMensal;
 class QTabWidget;
 
-class AbaProdutoEstrangeiro : public QWidget {
+class AbaProdutoEstrangeiro : public AbaItens {
     Q_OBJECT
 public:
-    AbaProdutoEstrangeiro(bool individual, std::function<QString()> idVrt, std::function<qint64()> idNfs,
-                          QWidget* parent = nullptr);
+    AbaProdutoEstrangeiro(const ContextoItens& contexto, QWidget* parent = nullptr);
 
-    // The editor shows the tab: the page "Produto" reads its grid again.
-    void entra();
+    void carrega() override;
+    void repopula() override;
+    // The tab comes up: the head, the grid of the page "Produto", and the pickers when the other page is shown.
+    void aoEntrar() override;
 
     QTabWidget* tabProdutoEstrangeiro = nullptr;
-    PaginaProdutoMensal* produtoMensal = nullptr;        // the monthly editor
+    PaginaProdutoMensal* produtoMensal = nullptr;         // the monthly editor
     PaginaProdutoIndividual* produtoIndividual = nullptr; // the individual editor
     PaginaDocumentoOrigem* documentoOrigem = nullptr;
-
-signals:
-    // A check failed on the page "Produto": the editor brings this tab to the front.
-    void mostraAba();
 
 private:
     void trocaPagina(int indice);

@@ -2,7 +2,7 @@
 
 #include "core/lookups/BuscaProduto.h"
 #include "core/session/MsgBox.h"
-#include "core/store/Cadastros.h"
+#include "core/store/ItensDeclaracao.h"
 #include "gui/assistants/DestinosEscolha.h"
 #include "gui/assistants/frmAssistNCM.h"
 #include "gui/assistants/frmAssistenteCCI.h"
@@ -14,7 +14,6 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <algorithm>
 
 CabecalhoProduto::CabecalhoProduto(const NomesCabecalho& n, QWidget* parent) : QWidget(parent)
 {
@@ -33,9 +32,9 @@ CabecalhoProduto::CabecalhoProduto(const NomesCabecalho& n, QWidget* parent) : Q
     cboUnidade = new QComboBox(this);
     cboUnidade->setObjectName(n.unidade);
     cmdNcm = new QPushButton(QStringLiteral("..."), this);
-    cmdNcm->setObjectName(QStringLiteral("cmdNCM_") + n.ncm);
+    cmdNcm->setObjectName(n.botaoNcm);
     cmdProduto = new QPushButton(QStringLiteral("..."), this);
-    cmdProduto->setObjectName(QStringLiteral("cmdProduto_") + n.codigo);
+    cmdProduto->setObjectName(n.botaoProduto);
     for (QPushButton* b : {cmdNcm, cmdProduto})
         b->setMaximumWidth(30);
 
@@ -65,12 +64,8 @@ CabecalhoProduto::CabecalhoProduto(const NomesCabecalho& n, QWidget* parent) : Q
 void CabecalhoProduto::carregaUnidades()
 {
     const QString escolha = cboUnidade->currentText();
-    QStringList nomes;
-    for (const QStringList& l : Cadastros::Lista(Cadastros::UnidadeMedida()))
-        nomes << l.value(1);
-    std::sort(nomes.begin(), nomes.end());
     cboUnidade->clear();
-    cboUnidade->addItems(nomes);
+    cboUnidade->addItems(ItensDeclaracao::Unidades());
     cboUnidade->setCurrentIndex(escolha.isEmpty() ? -1 : cboUnidade->findText(escolha));
 }
 

@@ -15,6 +15,7 @@ struct NomesCabecalho {
     QString ncm, descricaoNcm, unidadeEstatistica, codigo, descricao, unidade;
     QString chave;            // the pickers' caller key ("produtoPEMensal", "produtoPE")
     QString rotuloUnidade;    // "Unidade comercial", "Unidade de medida comercial"
+    QString botaoNcm, botaoProduto;  // the picker buttons
 };
 
 class CabecalhoProduto : public QWidget {

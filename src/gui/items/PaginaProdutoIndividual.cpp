@@ -4,6 +4,7 @@
 #include "core/session/MsgBox.h"
 #include "core/session/modVRTPLN.h"
 #include "core/store/ItemProdutoEstrangeiro.h"
+#include "core/store/ItensDeclaracao.h"
 #include "gui/blocks/QuatroBotoes.h"
 #include "gui/items/AliquotaDiferente.h"
 #include "gui/items/CabecalhoProduto.h"
@@ -56,7 +57,7 @@ PaginaProdutoIndividual::PaginaProdutoIndividual(std::function<QString()> idVrt,
     g->addWidget(txtItem, 1, 0);
     cabecalho = new CabecalhoProduto({t("mskProdutoEstrangeiroNFS(0)"), t("txtProdutoEstrangeiroNFS(6)"),
                                       t("txtdisplayPE"), t("txtCodProdPE"), t("txtDescrProdPE"), t("cboUnidadePE"),
-                                      t("produtoPE"), t("Unidade de medida comercial")},
+                                      t("produtoPE"), t("Unidade de medida comercial"), t("cmdAssistenteNCM_tabProdutoEstrangeiro_Individual"), t("cmdAssistenteCCI_tabProdutoEstrangeiro_Individual")},
                                      quadro);
     g->addWidget(cabecalho, 2, 0, 1, 4);
     const QList<std::tuple<int, DecimalField::Family, const char*>> valores{
@@ -224,7 +225,7 @@ void PaginaProdutoIndividual::incluir()
 {
     if (!ValidaDadosPE() || !confereProduto(0))
         return;
-    if (NumeroDeItemUsado(m_idNfs(), txtItem->text())) {
+    if (ItensDeclaracao::NumeroItemUsado(m_idNfs(), txtItem->text())) {
         recusa(t("O número de item informado já foi incluído anteriormente."), txtItem);
         return;
     }
@@ -249,7 +250,7 @@ void PaginaProdutoIndividual::alterar()
     const qint64 id = celula(t("ID_ITEM")).toLongLong();
     if (!ValidaDadosPE() || !confereProduto(id))
         return;
-    if (txtItem->text() != celula(t("NR_ITEM_NF_SAIDA")) && NumeroDeItemUsado(m_idNfs(), txtItem->text())) {
+    if (txtItem->text() != celula(t("NR_ITEM_NF_SAIDA")) && ItensDeclaracao::NumeroItemUsado(m_idNfs(), txtItem->text())) {
         recusa(t("O número de item informado já foi incluído anteriormente."), txtItem);
         return;
     }

@@ -4,6 +4,7 @@
 #include "core/session/MsgBox.h"
 #include "core/session/modVRTPLN.h"
 #include "core/store/ItemProdutoEstrangeiro.h"
+#include "core/store/ItensDeclaracao.h"
 #include "gui/blocks/QuatroBotoes.h"
 #include "gui/items/AliquotaDiferente.h"
 #include "gui/items/CabecalhoProduto.h"
@@ -59,14 +60,14 @@ PaginaProdutoMensal::PaginaProdutoMensal(std::function<QString()> idVrt, QWidget
     auto* g = new QGridLayout(quadro);
     cabecalho = new CabecalhoProduto({t("mskNumNCMPE"), t("txtDescrNCMPE"), t("txtUnidMedEstatisticaPE"),
                                       t("txtCodProdPE"), t("txtDescrProdPE"), t("cboUnidadePE"), t("produtoPEMensal"),
-                                      t("Unidade comercial")},
+                                      t("Unidade comercial"), t("cmdAssistenteNCM_tabProdutoEstrangeiro_Mensal"), t("cmdAssistenteCCI_tabProdutoEstrangeiro_Mensal")},
                                      quadro);
     g->addWidget(cabecalho, 0, 0, 1, 3);
     mskPE[1] = new DecimalField(DecimalField::Quantity, t("mskPE(1)"), ZeroMessage::NotEqualZeroPoder, quadro);
     cboLocalPE = new QComboBox(quadro);
     cboLocalPE->setObjectName(t("cboLocalPE"));
-    for (const auto& [codigo, nome] : LocaisDestino())
-        cboLocalPE->addItem(nome, codigo);
+    for (const QStringList& l : ItensDeclaracao::Locais())
+        cboLocalPE->addItem(l.value(1), l.value(0));
     cboLocalPE->setCurrentIndex(-1);
     mskPE[2] = new DecimalField(DecimalField::Quantity, t("mskPE(2)"), ZeroMessage::NotEqualZeroPoder, quadro);
     const QList<QPair<QString, QWidget*>> campos{{t("Quant. total estatística"), mskPE[1]},
@@ -311,7 +312,7 @@ void PaginaProdutoMensal::excluir()
     if (MsgBox(t("Deseja realmente excluir?"), Msg::YesNo | Msg::Information) != Msg::Yes)
         return;
     modVRTPLN::AlteracaoPendente = true;
-    ExcluiDestino(celula(t("ID_DEST_PRODUTO")).toLongLong());
+    ItensDeclaracao::ExcluiDestino(celula(t("ID_DEST_PRODUTO")).toLongLong(), celula(t("ID_ITEM_VRT")).toLongLong());
     LimpaCamposPE();
     CarregaGridPE();
 }

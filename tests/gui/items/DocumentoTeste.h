@@ -29,6 +29,11 @@ inline QString numeroDI(const QString& nove = QStringLiteral("091234567"))
     return QString();
 }
 
+inline AbaProdutoEstrangeiro* abaPE(Ambiente& a)
+{
+    return qobject_cast<AbaProdutoEstrangeiro*>(a.editor()->abaItens(1));
+}
+
 struct Cenario {
     Ambiente& a;
     bool individual;
@@ -37,7 +42,7 @@ struct Cenario {
 
     Cenario(Ambiente& ambiente, bool ind) : a(ambiente), individual(ind) {}
 
-    PaginaDocumentoOrigem* pagina() const { return a.editor()->produtoEstrangeiro->documentoOrigem; }
+    PaginaDocumentoOrigem* pagina() const { return abaPE(a)->documentoOrigem; }
     QuadroDocumento* quadro(TipoDocumento t = TipoDocumento::DI) const { return pagina()->quadro(t); }
 
     // The declaration with its product, stored through the store's routines of the modality.
@@ -66,7 +71,7 @@ struct Cenario {
     // The page "Documento de Origem" with the product, its first destination (or the item) and the kind chosen.
     void abre(TipoDocumento tipo = TipoDocumento::DI, int destino = 0)
     {
-        a.editor()->produtoEstrangeiro->tabProdutoEstrangeiro->setCurrentIndex(1);
+        abaPE(a)->tabProdutoEstrangeiro->setCurrentIndex(1);
         if (individual) {
             a.escolhe(QStringLiteral("cboItem"), QStringLiteral("001"));
         } else {

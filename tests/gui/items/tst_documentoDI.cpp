@@ -567,7 +567,7 @@ private slots:
         Ambiente a;
         Cenario c(a, false);
         c.declaracaoComProduto();
-        a.editor()->produtoEstrangeiro->tabProdutoEstrangeiro->setCurrentIndex(1);
+        abaPE(a)->tabProdutoEstrangeiro->setCurrentIndex(1);
         a.msgs.responde(Msg::OK);
         a.clica(t("optDI_tabProdutoEstrangeiro"));
         QCOMPARE(a.msgs.textos(), QStringList{t("Selecione um produto antes")});
@@ -604,10 +604,10 @@ private slots:
         }
         a.vaiParaAba(1);
         a.msgs.responde(Msg::OK);
-        a.editor()->produtoEstrangeiro->tabProdutoEstrangeiro->setCurrentIndex(1);
+        abaPE(a)->tabProdutoEstrangeiro->setCurrentIndex(1);
         QCOMPARE(a.msgs.textos(), QStringList{mensagem});
         QCOMPARE(a.msgs.caixas.first().icone(), individual ? Msg::Critical : Msg::Information);
-        QCOMPARE(a.editor()->produtoEstrangeiro->tabProdutoEstrangeiro->currentIndex(), 0);
+        QCOMPARE(abaPE(a)->tabProdutoEstrangeiro->currentIndex(), 0);
         QCOMPARE(a.msgs.inesperadas, 0);
     }
 
@@ -643,7 +643,7 @@ private slots:
         Ambiente a;
         Cenario c(a, true);
         c.declaracaoComProduto();
-        a.editor()->produtoEstrangeiro->tabProdutoEstrangeiro->setCurrentIndex(1);
+        abaPE(a)->tabProdutoEstrangeiro->setCurrentIndex(1);
         a.clica(t("optDI_tabProdutoEstrangeiro"));
         c.preencheDI();
         a.msgs.responde(Msg::OK);
