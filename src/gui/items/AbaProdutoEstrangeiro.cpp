@@ -13,6 +13,7 @@ AbaProdutoEstrangeiro::AbaProdutoEstrangeiro(const ContextoItens& contexto, QWid
 {
     tabProdutoEstrangeiro = new QTabWidget(this);
     tabProdutoEstrangeiro->setObjectName(QStringLiteral("tabProdutoEstrangeiro"));
+    setProperty("paginaAjuda", QStringLiteral("produto_estrangeiro.html"));
     QWidget* produto = nullptr;
     if (contexto.individual) {
         produtoIndividual = new PaginaProdutoIndividual(contexto.idVrt, contexto.idNfs);
