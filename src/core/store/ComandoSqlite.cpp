@@ -50,7 +50,7 @@ ComandoSqlite::~ComandoSqlite()
 void ComandoSqlite::liga(int posicao, const QVariant& v)
 {
     const int i = posicao + 1;
-    // A null value of any type is NULL, as Qt SQL binds it; a null QString too.
+    // An invalid or null value is NULL, as Qt SQL binds it; a null QString or QByteArray too (below).
     if (v.isNull()) {
         sqlite3_bind_null(m_stmt, i);
         return;
@@ -72,14 +72,24 @@ void ComandoSqlite::liga(int posicao, const QVariant& v)
         sqlite3_bind_double(m_stmt, i, v.toDouble());
         return;
     case QMetaType::QByteArray: {
+        if (static_cast<const QByteArray*>(v.constData())->isNull()) {
+            sqlite3_bind_null(m_stmt, i);
+            return;
+        }
         m_textos[posicao] = v.toByteArray();
         const QByteArray& b = m_textos.at(posicao);
         sqlite3_bind_blob(m_stmt, i, b.constData(), int(b.size()), SQLITE_STATIC);
         return;
     }
-    case QMetaType::QString:
-        m_textos[posicao] = static_cast<const QString*>(v.constData())->toUtf8();
+    case QMetaType::QString: {
+        const QString& texto = *static_cast<const QString*>(v.constData());
+        if (texto.isNull()) {
+            sqlite3_bind_null(m_stmt, i);
+            return;
+        }
+        m_textos[posicao] = texto.toUtf8();
         break;
+    }
     default:
         m_textos[posicao] = v.toString().toUtf8();
         break;

@@ -29,14 +29,17 @@ ComandoSqlite& ComandosPreparados::roda(const QString& sql, const QVariantList& 
         it = m_comandos.emplace(sql, std::make_unique<ComandoSqlite>(sql)).first;
     ComandoSqlite& c = *it->second;
     // A null QString would be bound as NULL; the reader stores empty fields as empty texts.
+    const auto textoNulo = [](const QVariant& v) {
+        return v.typeId() == QMetaType::QString && static_cast<const QString*>(v.constData())->isNull();
+    };
     bool temNulo = false;
     for (const QVariant& v : valores)
-        temNulo = temNulo || (v.typeId() == QMetaType::QString && v.isNull());
+        temNulo = temNulo || textoNulo(v);
     bool ok = false;
     if (temNulo) {
         QVariantList semNulos = valores;
         for (QVariant& v : semNulos) {
-            if (v.typeId() == QMetaType::QString && v.isNull())
+            if (textoNulo(v))
                 v = QString(QLatin1String(""));
         }
         ok = c.roda(semNulos);
