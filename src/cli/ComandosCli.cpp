@@ -2,6 +2,7 @@
 
 #include "cli/ManipuladorCli.h"
 #include "core/file/writing/GravaVrt.h"
+#include "core/legacy/ImportaBancoAnterior.h"
 #include "core/file/reading/LeArquivoVrt.h"
 #include "core/lookups/ListaDeclaracoes.h"
 #include "core/file/checking/VerificaArquivoVrt.h"
@@ -53,7 +54,7 @@ QString ArquivoDoBanco(const OpcoesCli& opcoes)
 
 bool Escreve(const QString& comando)
 {
-    return comando == s("importar") || comando == s("tabela");
+    return comando == s("importar") || comando == s("tabela") || comando == s("banco-anterior");
 }
 
 bool AbreBanco(const QString& arquivo)
@@ -88,6 +89,19 @@ int Gravar(const OpcoesCli& opcoes)
     for (const QString& id : r.ignoradas)
         erro(s("identificação não encontrada: ") + id);
     return (r.erroGravacao || !r.ignoradas.isEmpty() || manipulador.criticas > 0) ? 1 : 0;
+}
+
+int BancoAnterior(const OpcoesCli& opcoes)
+{
+    const QFileInfo arquivo(opcoes.argumentos.at(0));
+    ManipuladorCli manipulador(opcoes.substituir);
+    InstalaManipuladorMsg(std::ref(manipulador));
+    if (!BancoAnterior::NomeAceito(arquivo.fileName()))
+        return 1;
+    if (!BancoAnterior::ImportaBancoAnterior(arquivo.absolutePath(), arquivo.fileName()))
+        return 1;
+    MsgBox(s("Importação realizada com sucesso!"));
+    return 0;
 }
 
 int Importar(const OpcoesCli& opcoes)

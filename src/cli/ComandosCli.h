@@ -12,6 +12,8 @@ bool Escreve(const QString& comando);
 // Connects `arquivo` as the session's connection.
 bool AbreBanco(const QString& arquivo);
 
+// The old version's database brought in; --substituir answers Yes to losing the present data.
+int BancoAnterior(const OpcoesCli& opcoes);
 int Gravar(const OpcoesCli& opcoes);
 int Importar(const OpcoesCli& opcoes);
 int Listar(const OpcoesCli& opcoes);

@@ -11,7 +11,10 @@ int ManipuladorCli::operator()(const QString& texto, int estilo, const QString& 
     int resposta = RespostaPadrao(estilo);
     const int botoes = estilo & Msg::MascaraBotoes;
     if (botoes == Msg::YesNo || botoes == Msg::YesNoCancel) {
-        const bool substituicao = texto.contains(QStringLiteral("deseja substituí-la?"));
+        // Questions that replace data already in the database are answered by --substituir.
+        const bool substituicao = texto.contains(QStringLiteral("deseja substituí-la?"))
+                                  || texto.contains(QStringLiteral("Confirma a exclusão de"))
+                                  || texto.contains(QStringLiteral("Confirma a substituição?"));
         resposta = (!substituicao || m_substituir) ? Msg::Yes : Msg::No;
         linha += resposta == Msg::Yes ? QStringLiteral(" [Sim]") : QStringLiteral(" [Não]");
         if (resposta == Msg::No) {

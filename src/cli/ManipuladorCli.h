@@ -6,7 +6,8 @@
 
 class ManipuladorCli {
 public:
-    // The answer to "deseja substituí-la?" questions; every other question is answered Yes.
+    // The answer to the questions that replace data already there ("deseja substituí-la?", and the old database's
+    // deletion and replacement questions); every other question is answered Yes.
     explicit ManipuladorCli(bool substituir = false) : m_substituir(substituir) {}
     int operator()(const QString& texto, int estilo, const QString& titulo);
 

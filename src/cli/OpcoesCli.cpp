@@ -37,7 +37,7 @@ OpcoesCli OpcoesCli::le(const QStringList& args)
     }
     if (o.ajuda)
         return o;
-    const QStringList comandos = {s("copiar"), s("gravar"), s("importar"), s("listar"), s("verificar"),
+    const QStringList comandos = {s("banco-anterior"), s("copiar"), s("gravar"), s("importar"), s("listar"), s("verificar"),
                                  s("tabela")};
     if (o.comando.isEmpty()) {
         o.erro = s("falta o comando");
@@ -48,7 +48,8 @@ OpcoesCli OpcoesCli::le(const QStringList& args)
             o.erro = s("gravar precisa de ao menos uma identificação");
         else if (o.pasta.isEmpty())
             o.erro = s("gravar precisa de --pasta DIR");
-    } else if (o.comando == s("importar") || o.comando == s("verificar") || o.comando == s("tabela")) {
+    } else if (o.comando == s("importar") || o.comando == s("verificar") || o.comando == s("tabela")
+               || o.comando == s("banco-anterior")) {
         if (o.argumentos.size() != 1)
             o.erro = o.comando + s(" precisa de exatamente um ARQUIVO");
     } else if (o.comando == s("copiar")) {
@@ -57,9 +58,10 @@ OpcoesCli OpcoesCli::le(const QStringList& args)
     } else if (o.comando == s("listar") && !o.argumentos.isEmpty()) {
         o.erro = s("listar não recebe argumentos");
     }
-    const bool opcaoDeImportar = o.restaurar || o.substituir;
-    if (o.erro.isEmpty() && opcaoDeImportar && o.comando != s("importar"))
-        o.erro = s("--restaurar e --substituir servem só a importar");
+    if (o.erro.isEmpty() && o.restaurar && o.comando != s("importar"))
+        o.erro = s("--restaurar serve só a importar");
+    if (o.erro.isEmpty() && o.substituir && o.comando != s("importar") && o.comando != s("banco-anterior"))
+        o.erro = s("--substituir serve só a importar e banco-anterior");
     if (o.erro.isEmpty() && o.backup && o.comando != s("gravar"))
         o.erro = s("--backup serve só a gravar");
     if (o.erro.isEmpty() && !o.pasta.isEmpty() && o.comando != s("gravar"))
@@ -77,6 +79,10 @@ QString TextoAjuda()
              "do programa (PLN_VRT_v2.mdb ao lado do executável, salvo --banco).\n"
              "\n"
              "Comandos:\n"
+             "  banco-anterior ARQUIVO [--substituir]\n"
+             "        traz as declarações e as tabelas do banco de dados da versão 1.0 (pln_vrt.mdb), numa única\n"
+             "        transação, como \"Importar Banco de Dados da Versão 1.0\"; --substituir responde Sim à\n"
+             "        exclusão das VRTs e à substituição das tabelas já existentes; sem ela, nada muda\n"
              "  copiar ID [--retificacao NUMERO]\n"
              "        copia a declaração inteira com a próxima identificação, que sai em stdout: sem opção, como\n"
              "        \"Original\" (nova declaração, com o mês de referência ou a nota fiscal a preencher); com\n"

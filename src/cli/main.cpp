@@ -39,6 +39,8 @@ int main(int argc, char** argv)
     }
     if (!ComandosCli::AbreBanco(arquivo))
         return 1;
+    if (opcoes.comando == QStringLiteral("banco-anterior"))
+        return ComandosCli::BancoAnterior(opcoes);
     if (opcoes.comando == QStringLiteral("copiar"))
         return ComandosCli::Copiar(opcoes);
     if (opcoes.comando == QStringLiteral("gravar"))

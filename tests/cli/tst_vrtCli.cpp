@@ -78,7 +78,7 @@ private slots:
         QTest::newRow("banco sem valor") << QStringList{t("listar"), t("--banco")}
                                          << t("vrt-cli: a opção --banco precisa de um valor");
         QTest::newRow("substituir fora de importar") << QStringList{t("listar"), t("--substituir")}
-                                                     << t("vrt-cli: --restaurar e --substituir servem só a importar");
+                                                     << t("vrt-cli: --substituir serve só a importar e banco-anterior");
     }
     void errosDeUsoSaemCom2()
     {

@@ -4,6 +4,10 @@
 #include "core/session/modVRTPLN.h"
 #include "core/store/modBancoDados.h"
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
 using namespace modBancoDados;
 
 namespace CopiaVrt {
@@ -44,6 +48,14 @@ CopiaEmCurso::CopiaEmCurso(const Pedido& pedido, const Acompanhamento& acompanha
 {
     ConectaBanco(modVRTPLN::ArquivoBanco());
     IniciaTransacao();
+    // Inside the transaction SQLite opens and frees a statement journal for every INSERT ... SELECT; with glibc's
+    // default trim threshold each free gave the top of the heap back to the system and the next statement asked
+    // for it again, a TLB flush each time (perf: a third of the copy's time in brk). Keeping the freed memory
+    // made the first copy of 10,000 items go from about 40 s to about 4 s; rows and results are unchanged.
+#ifdef __GLIBC__
+    mallopt(M_TRIM_THRESHOLD, 256 * 1024 * 1024);
+    mallopt(M_TOP_PAD, 64 * 1024 * 1024);
+#endif
     m_linhas = std::make_unique<CopiadorLinhas>();
     if (m_acompanhamento.inicio)
         m_acompanhamento.inicio();

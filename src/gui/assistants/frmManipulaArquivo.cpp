@@ -2,6 +2,7 @@
 
 #include "core/file/writing/GravaVrt.h"
 #include "core/file/reading/LeArquivoVrt.h"
+#include "core/legacy/ImportaBancoAnterior.h"
 #include "core/refdata/modImportacao.h"
 #include "core/session/MsgBox.h"
 #include "gui/screens/Telas.h"
@@ -292,13 +293,17 @@ void frmManipulaArquivo::cmdOk_Click()
         NomeArquivo.clear();
         atualizaLista();
     } else if (titulo == TituloBancoAnterior) {
-        if (NomeArquivo.toLower() != QLatin1String("pln_vrt.mdb")) {
-            MsgBox(QStringLiteral("O arquivo localizado não é o banco de dados da versão 1.0 do sistema!\n"
-                                  "O arquivo a ser localizado é:\n"
-                                  "C:\\PROJETOS\\VRT-PLN\\PLN_VRT.mdb"));
+        if (!BancoAnterior::NomeAceito(NomeArquivo))
             return;
+        bool importado = false;
+        if (ImportaBancoAnterior) {
+            importado = ImportaBancoAnterior(PastaArquivo, NomeArquivo);
+        } else {
+            emAndamento(true);
+            importado = BancoAnterior::ImportaBancoAnterior(PastaArquivo, NomeArquivo, [this](int p) { avanca(p); });
+            emAndamento(false);
         }
-        if (ImportaBancoAnterior && ImportaBancoAnterior(PastaArquivo, NomeArquivo))
+        if (importado)
             MsgBox(QStringLiteral("Importação realizada com sucesso!"));
     }
 }

@@ -35,7 +35,8 @@ public:
     static inline QString NomeArquivo;
     static inline QString PastaArquivo;
 
-    // The old version's import runs here once it exists; it answers true on success.
+    // Replaces the old version's import (BancoAnterior::ImportaBancoAnterior) when set: tests watch the name check
+    // alone through it. It answers true on success.
     static inline std::function<bool(const QString& pasta, const QString& nome)> ImportaBancoAnterior;
 
     explicit frmManipulaArquivo(QWidget* pai = nullptr);

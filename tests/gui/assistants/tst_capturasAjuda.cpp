@@ -12,6 +12,7 @@
 #include "gui/assistants/frmAssistenteMED.h"
 #include "gui/assistants/frmAssistenteVRT.h"
 #include "gui/assistants/frmManipulaArquivo.h"
+#include "gui/assistants/PainelCopiaVrt.h"
 #include "core/refdata/modImportacao.h"
 #include "gui/shell/frmVRTPLN.h"
 #include "core/session/modVRTPLN.h"
@@ -144,7 +145,7 @@ private slots:
     void paginasDeAjuda_data()
     {
         QTest::addColumn<QString>("pagina");
-        for (const char* p : {"escolha.html", "arquivos.html", "tabelas.html", "produtos.html", "ncm_moeda.html"})
+        for (const char* p : {"escolha.html", "copia.html", "arquivos.html", "tabelas.html", "produtos.html", "ncm_moeda.html"})
             QTest::newRow(p) << QString::fromLatin1(p);
     }
     void paginasDeAjuda()
@@ -202,6 +203,25 @@ private slots:
         principal.show();
         principal.acao(QStringLiteral("mnuFerramentasGravarBackup"))->trigger();
         salva(janelaDe(principal), QStringLiteral("frmAssistenteVRT.png"));
+    }
+
+    // The copy panel over the chooser, a monthly declaration picked and "Retificação" chosen.
+    void painelDeCopia()
+    {
+        BancoTeste banco;
+        DeclaracoesTeste::insere({"00001/24", "2", "11222333000181", "2024-02-05", "N", "012024"});
+        DeclaracoesTeste::insere({"00002/24", "1", "11222333000181", "2024-02-19", "N", "", "004512", "1    "});
+        frmVRTPLN principal;
+        principal.resize(1100, 560);
+        principal.show();
+        principal.acao(QStringLiteral("mnuDeclaracaoCopiarDeclaracao"))->trigger();
+        QWidget* tela = principal.telaAberta();
+        QTest::mouseClick(tela->findChild<QPushButton*>(QStringLiteral("cmdOk")), Qt::LeftButton);
+        auto* painel = tela->findChild<PainelCopiaVrt*>(QStringLiteral("FraAssistenteVRT_Copia"));
+        QVERIFY(painel && painel->isVisible());
+        painel->OptRetificacao->click();
+        QVERIFY(painel->mskNumVRT->isEnabled());
+        salva(janelaDe(principal), QStringLiteral("PainelCopiaVrt.png"));
     }
 
     void arquivoImportar()
