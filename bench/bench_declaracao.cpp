@@ -1,7 +1,12 @@
 // Times the declaration file on a monthly declaration of more than 100,000 records (all four modalities,
 // several destinations, entry documents): writing it, checking it with `vrt-cli verificar`, and reading it back
-// into an empty database; beside it, in the same run, the sqlite3 shell bulk-loading as many rows from CSV.
-// Prints records per second, the ratios to the bulk load, and peak memory. Never fails on time.
+// into an empty database. Beside it, in the same run, three floors done by the sqlite3 shell:
+//  - the same-schema load: exactly the rows the reading created, dumped as INSERTs, loaded table by table into a copy
+//    of the database as it was before the reading (same schema, foreign keys on, indexes), in one transaction;
+//  - the export: every row of the declaration's tables written out as CSV from the database the writer read;
+//  - the old bare load: as many CSV rows as the file has records into one table without constraints.
+// Prints wall and CPU seconds, the ratios, and peak memory. Never fails on time. An argument scales the
+// declaration (1 is about 100,000 records; 0.01, 0.1, 10 for a scaling table).
 #include "core/file/writing/GravaVrt.h"
 #include "core/file/reading/LeArquivoVrt.h"
 #include "core/session/MsgBox.h"
@@ -9,6 +14,7 @@
 #include "core/store/modBancoDados.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
@@ -26,7 +32,7 @@ using namespace modBancoDados;
 const QString Id = QStringLiteral("00001/26");
 // Items per modality: 6,000 foreign products (2 destinations, 5 documents each: 10 records), 5,000 with basic
 // process (2 destinations: 2 records), 1,000 without (2 inputs at 2 destinations: 19 records), 12,000 national.
-const int ItensPE = 6000, ItensPPB = 5000, ItensSemPPB = 1000, ItensNacionais = 12000;
+int ItensPE = 6000, ItensPPB = 5000, ItensSemPPB = 1000, ItensNacionais = 12000;
 
 QString q(int n, int casas = 5)
 {
@@ -164,6 +170,98 @@ double segundos(const QElapsedTimer& r)
     return r.nsecsElapsed() / 1e9;
 }
 
+double cpu(int quem)
+{
+    rusage u{};
+    getrusage(quem, &u);
+    return u.ru_utime.tv_sec + u.ru_stime.tv_sec + (u.ru_utime.tv_usec + u.ru_stime.tv_usec) / 1e6;
+}
+
+// Wall and CPU time (this process and its children) of one phase.
+struct Medida {
+    double parede = 0, cpu = 0;
+};
+
+class Cronometro {
+public:
+    Cronometro() { m_r.start(); m_cpu = cpu(RUSAGE_SELF) + cpu(RUSAGE_CHILDREN); }
+    Medida para() const { return {segundos(m_r), cpu(RUSAGE_SELF) + cpu(RUSAGE_CHILDREN) - m_cpu}; }
+
+private:
+    QElapsedTimer m_r;
+    double m_cpu = 0;
+};
+
+// The declaration's tables: all but the reference ones.
+QStringList tabelasDaDeclaracao()
+{
+    QSqlQuery t(ConexaoBanco());
+    t.exec(QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite_%' "
+                          "AND name NOT IN ('MOEDA', 'NCM_ITEM', 'UNIDADE_FEDERATIVA', 'LOCAL_DESTINO', "
+                          "'OPERACAO_FISCAL', 'ARQUIVO_NUMERADOR') ORDER BY rowid"));
+    QStringList nomes;
+    while (t.next())
+        nomes << t.value(0).toString();
+    return nomes;
+}
+
+bool shell(const QString& banco, const QString& script)
+{
+    QProcess p;
+    p.start(QStringLiteral("sqlite3"), {QStringLiteral("-batch"), banco});
+    p.write(script.toUtf8());
+    p.closeWriteChannel();
+    const bool terminou = p.waitForFinished(1800000);
+    const QByteArray erros = p.readAllStandardError();
+    if (!terminou || p.exitCode() != 0 || !erros.isEmpty()) {
+        std::fprintf(stderr, "sqlite3 falhou em %s: %s\n", qPrintable(banco), erros.left(2000).constData());
+        return false;
+    }
+    return true;
+}
+
+// The rows the reading created (in `lido` and not in `antes`), one file of INSERTs per table, in `pasta`. SQL
+// rather than CSV: a CSV field cannot tell NULL from an empty text, and the schema's checks do.
+QStringList despeja(const QString& lido, const QString& antes, const QStringList& tabelas, const QString& pasta)
+{
+    QString script = QStringLiteral(".headers off\nATTACH '%1' AS antes;\n").arg(antes);
+    for (const QString& t : tabelas)
+        script += QStringLiteral(".mode insert %2\n.output %1/%2.sql\n"
+                                 "SELECT * FROM main.%2 EXCEPT SELECT * FROM antes.%2;\n").arg(pasta, t);
+    shell(lido, script);
+    QStringList comLinhas;
+    for (const QString& t : tabelas) {
+        if (QFileInfo(pasta + QLatin1Char('/') + t + QStringLiteral(".sql")).size() > 0)
+            comLinhas << t;
+    }
+    return comLinhas;
+}
+
+// The same-schema load: the shell runs the INSERTs of each table, parents first, in one transaction.
+Medida cargaMesmoEsquema(const QString& banco, const QStringList& tabelas, const QString& pasta)
+{
+    QString script = QStringLiteral("PRAGMA foreign_keys = ON;\nBEGIN;\n");
+    for (const QString& t : tabelas)
+        script += QStringLiteral(".read %1/%2.sql\n").arg(pasta, t);
+    script += QStringLiteral("COMMIT;\n");
+    Cronometro c;
+    if (!shell(banco, script))
+        return {-1, -1};
+    return c.para();
+}
+
+// The export: the shell writes every row of the declaration's tables as CSV.
+Medida exportacao(const QString& banco, const QStringList& tabelas, const QString& pasta)
+{
+    QString script = QStringLiteral(".headers off\n.mode csv\n");
+    for (const QString& t : tabelas)
+        script += QStringLiteral(".output %1/%2.csv\nSELECT * FROM %2;\n").arg(pasta, t);
+    Cronometro c;
+    if (!shell(banco, script))
+        return {-1, -1};
+    return c.para();
+}
+
 // The reference: the sqlite3 shell loading `linhas` CSV rows of nine columns into a new table.
 double cargaSqlite(const QString& pasta, qint64 linhas)
 {
@@ -198,13 +296,34 @@ qint64 contaLinhas(const QString& arquivo)
     return b.count('\n') + (b.endsWith('\n') ? 0 : 1);
 }
 
+void linha(const char* oQue, const Medida& m, qint64 registros, const QString& nota)
+{
+    std::printf("%-36s %7.2f s  %6.2f s CPU  %9.0f registros/s  %s\n", oQue, m.parede, m.cpu,
+                registros / m.parede, qPrintable(nota));
+}
+
+QString razoes(const Medida& m, const Medida& piso, const char* nomePiso, const Medida& nua)
+{
+    return QStringLiteral("%1x %2 (CPU %3x); %4x a carga nua")
+        .arg(m.parede / piso.parede, 0, 'f', 2)
+        .arg(QString::fromUtf8(nomePiso))
+        .arg(m.cpu / piso.cpu, 0, 'f', 2)
+        .arg(m.parede / nua.parede, 0, 'f', 2);
+}
+
 }  // namespace
 
 int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
+    if (argc > 1) {
+        const double escala = QString::fromLocal8Bit(argv[1]).toDouble();
+        for (int* n : {&ItensPE, &ItensPPB, &ItensSemPPB, &ItensNacionais})
+            *n = qMax(1, int(*n * escala));
+    }
     InstalaManipuladorMsg([](const QString&, int estilo, const QString&) { return RespostaPadrao(estilo); });
     QTemporaryDir dir;
+    dir.setAutoRemove(qEnvironmentVariableIsEmpty("VRT_BENCH_GUARDA"));  // kept for a look at the files
     const QString pasta = dir.path();
     const auto copiaBanco = [&](const QString& nome) {
         const QString arquivo = pasta + QLatin1Char('/') + nome;
@@ -215,69 +334,83 @@ int main(int argc, char** argv)
     modVRTPLN::CaminhoAplicacao = pasta;
     modVRTPLN::CaminhoDados = pasta;
 
-    ConectaBanco(copiaBanco(QStringLiteral("origem.mdb")));
+    const QString origem = copiaBanco(QStringLiteral("origem.mdb"));
+    ConectaBanco(origem);
     QElapsedTimer r;
     r.start();
     monta();
     std::printf("declaração montada no banco em %.2f s\n", segundos(r));
 
-    r.restart();
+    Cronometro cg;
     const ResultadoGravacao g = GravaVrt({Id}, pasta, ModoGravacao::Backup);
-    const double tGravar = segundos(r);
+    const Medida gravar = cg.para();
     if (g.arquivos.isEmpty() || g.erroGravacao) {
         std::fprintf(stderr, "a gravação falhou\n");
         return 1;
     }
     const QString arquivo = g.arquivos.first();
     const qint64 registros = contaLinhas(arquivo);
+    const QStringList tabelas = tabelasDaDeclaracao();
     DesconectaBanco();
+    const long memoriaGravacao = [] { rusage u{}; getrusage(RUSAGE_SELF, &u); return u.ru_maxrss; }();
 
-    r.restart();
+    QDir(pasta).mkpath(QStringLiteral("exportado"));
+    const Medida exportar = exportacao(origem, tabelas, pasta + QStringLiteral("/exportado"));
+
+    Cronometro cv;
     QProcess verificar;
     verificar.start(QStringLiteral(VRT_BINARY_DIR "/vrt-cli"), {QStringLiteral("verificar"), arquivo});
-    verificar.waitForFinished(600000);
-    const double tVerificar = segundos(r);
+    verificar.waitForFinished(1800000);
+    const Medida verificacao = cv.para();
     const QByteArray saidaVerificar = verificar.readAllStandardOutput().trimmed();
+    const long memoriaVerificar = [] { rusage u{}; getrusage(RUSAGE_CHILDREN, &u); return u.ru_maxrss; }();
 
-    ConectaBanco(copiaBanco(QStringLiteral("destino.mdb")));
+    const QString destino = copiaBanco(QStringLiteral("destino.mdb"));
+    ConectaBanco(destino);
     ncm();
-    r.restart();
+    DesconectaBanco();
+    const QString antes = pasta + QStringLiteral("/antes.mdb");
+    QFile::copy(destino, antes);
+    ConectaBanco(destino);
+    Cronometro cl;
     LeArquivoVrt leitura(pasta, QFileInfo(arquivo).fileName(), ModoLeitura::Restaurar);
     const bool lida = leitura.executa();
-    const double tLer = segundos(r);
-    // Rows the reading made, in every table but the reference ones: the file's records unfold into more rows.
+    const Medida ler = cl.para();
+    const long memoriaLeitura = [] { rusage u{}; getrusage(RUSAGE_SELF, &u); return u.ru_maxrss; }();
     qint64 linhasCriadas = 0;
-    {
-        QSqlQuery tabelas(ConexaoBanco());
-        tabelas.exec(QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite_%' "
-                                    "AND name NOT IN ('MOEDA', 'NCM_ITEM', 'UNIDADE_FEDERATIVA', 'UNIDADE_MEDIDA', "
-                                    "'LOCAL_DESTINO', 'OPERACAO_FISCAL', 'ARQUIVO_NUMERADOR')"));
-        QStringList nomes;
-        while (tabelas.next())
-            nomes << tabelas.value(0).toString();
-        for (const QString& t : nomes)
-            linhasCriadas += ValorUnico(QStringLiteral("SELECT COUNT(*) FROM ") + t).toLongLong();
-    }
+    for (const QString& t : tabelas)
+        linhasCriadas += ValorUnico(QStringLiteral("SELECT COUNT(*) FROM ") + t).toLongLong();
     DesconectaBanco();
 
-    const double tCarga = cargaSqlite(pasta, registros);
-    rusage uso{};
-    getrusage(RUSAGE_SELF, &uso);
-    rusage filhos{};
-    getrusage(RUSAGE_CHILDREN, &filhos);
+    // The floor of the reading: the rows it created, loaded by the shell into the database as it was before.
+    QDir(pasta).mkpath(QStringLiteral("lido"));
+    const QStringList comLinhas = despeja(destino, antes, tabelas, pasta + QStringLiteral("/lido"));
+    const Medida mesmoEsquema = cargaMesmoEsquema(antes, comLinhas, pasta + QStringLiteral("/lido"));
+    ConectaBanco(antes);
+    qint64 linhasCarregadas = 0;
+    for (const QString& t : tabelas)
+        linhasCarregadas += ValorUnico(QStringLiteral("SELECT COUNT(*) FROM ") + t).toLongLong();
+    DesconectaBanco();
+
+    const double tNua = cargaSqlite(pasta, registros);
+    const Medida nua{tNua, tNua};
 
     std::printf("registros no arquivo: %lld (%.1f MB)\n", static_cast<long long>(registros),
                 QFileInfo(arquivo).size() / 1e6);
-    std::printf("%-34s %8.2f s  %10.0f registros/s  %5.2fx a carga\n", "gravar (GravaVrt)", tGravar,
-                registros / tGravar, tGravar / tCarga);
-    std::printf("%-34s %8.2f s  %10.0f registros/s  %5.2fx a carga  [%s, saída %d]\n", "verificar (vrt-cli)", tVerificar,
-                registros / tVerificar, tVerificar / tCarga, saidaVerificar.constData(), verificar.exitCode());
-    std::printf("%-34s %8.2f s  %10.0f registros/s  %5.2fx a carga  [%s]\n", "ler num banco vazio (LeArquivoVrt)",
-                tLer, registros / tLer, tLer / tCarga, lida ? "concluída" : "FALHOU");
-    std::printf("%-34s %8.2f s  %10.0f linhas/s\n", "sqlite3 .import do mesmo número", tCarga, registros / tCarga);
-    std::printf("linhas criadas pela leitura: %lld (a carga do sqlite3: %lld, numa tabela sem restrições)\n",
-                static_cast<long long>(linhasCriadas), static_cast<long long>(registros));
-    std::printf("memória de pico: %.1f MB (este processo), %.1f MB (maior processo filho)\n", uso.ru_maxrss / 1024.0,
-                filhos.ru_maxrss / 1024.0);
+    linha("gravar (GravaVrt)", gravar, registros, razoes(gravar, exportar, "a exportação", nua));
+    linha("verificar (vrt-cli)", verificacao, registros,
+          razoes(verificacao, mesmoEsquema, "a carga igual", nua) +
+              QStringLiteral(" [%1, saída %2]").arg(QString::fromUtf8(saidaVerificar)).arg(verificar.exitCode()));
+    linha("ler num banco vazio (LeArquivoVrt)", ler, registros,
+          razoes(ler, mesmoEsquema, "a carga igual", nua) + (lida ? QStringLiteral(" [concluída]")
+                                                                  : QStringLiteral(" [FALHOU]")));
+    linha("sqlite3: exportação CSV das tabelas", exportar, registros, QString());
+    linha("sqlite3: carga igual (mesmo esquema)", mesmoEsquema, registros,
+          QStringLiteral("%1 linhas em %2 tabelas").arg(linhasCarregadas).arg(comLinhas.size()));
+    std::printf("%-36s %7.2f s\n", "sqlite3: carga nua (uma tabela)", tNua);
+    std::printf("linhas criadas pela leitura: %lld; pela carga igual: %lld\n", static_cast<long long>(linhasCriadas),
+                static_cast<long long>(linhasCarregadas));
+    std::printf("memória de pico: gravar %.1f MB, ler %.1f MB (este processo), verificar %.1f MB (vrt-cli)\n",
+                memoriaGravacao / 1024.0, memoriaLeitura / 1024.0, memoriaVerificar / 1024.0);
     return lida ? 0 : 1;
 }

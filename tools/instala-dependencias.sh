@@ -2,7 +2,7 @@
 # Installs the Debian packages the build and the tests need, when they are missing; with nothing missing it only
 # asks dpkg once and says nothing.
 set -euo pipefail
-pacotes=(cmake make g++ qt6-base-dev qt6-base-dev-tools libqt6sql6-sqlite libgl-dev sqlite3 ccache python3)
+pacotes=(cmake make g++ qt6-base-dev qt6-base-dev-tools libqt6sql6-sqlite libsqlite3-dev pkg-config libgl-dev sqlite3 ccache python3)
 # --fuzz: also clang and its libFuzzer and sanitizer runtimes, for tools/fuzz.sh.
 if [ "${1:-}" = --fuzz ]; then pacotes+=(clang-14 libclang-rt-14-dev); fi
 mapfile -t faltam < <(dpkg-query -W -f='${Status} ${Package}\n' "${pacotes[@]}" 2>&1 |

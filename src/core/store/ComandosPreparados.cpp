@@ -1,56 +1,19 @@
 #include "core/store/ComandosPreparados.h"
 
+#include "core/store/ComandoSqlite.h"
 #include "core/store/modBancoDados.h"
-
-#include <QVector>
 
 ComandosPreparados::ComandosPreparados(AntesDeFalhar antes) : m_antes(antes) {}
 
-ComandosPreparados::~ComandosPreparados()
-{
-    for (auto& q : m_consultas)
-        q->finish();
-}
+ComandosPreparados::~ComandosPreparados() = default;
 
 QVariant ComandosPreparados::texto(const QString& valor)
 {
     return valor.isNull() ? QVariant(QString(QLatin1String(""))) : QVariant(valor);
 }
 
-namespace {
-// The name bound to the i-th "?" of a statement. Qt turns a value bound by position into a placeholder name
-// (":" and the number, built with QString::arg) for every value of every row; binding by a name made once per
-// position takes about a sixth off reading a large file.
-const QString& nomeDaPosicao(int i)
+void ComandosPreparados::falha(const QSqlError& erro)
 {
-    static QVector<QString> nomes;
-    while (nomes.size() <= i)
-        nomes.append(QStringLiteral(":v") + QString::number(nomes.size()));
-    return nomes.at(i);
-}
-
-// The statement with each "?" outside quotes replaced by the name of its position.
-QString comNomes(const QString& texto)
-{
-    QString r;
-    r.reserve(texto.size() + 16);
-    bool aspas = false;
-    int posicao = 0;
-    for (const QChar c : texto) {
-        if (c == QLatin1Char('\''))
-            aspas = !aspas;
-        if (c == QLatin1Char('?') && !aspas)
-            r += nomeDaPosicao(posicao++);
-        else
-            r += c;
-    }
-    return r;
-}
-}  // namespace
-
-void ComandosPreparados::falha(const QSqlQuery& q)
-{
-    const QSqlError erro = q.lastError();
     // A busy database is not the row's fault: it ends the run with its own message whatever the caller chose.
     if (m_antes == AntesDeFalhar::Recusa && !modBancoDados::BancoOcupado(erro))
         throw ComandoRecusado{erro};
@@ -59,49 +22,54 @@ void ComandosPreparados::falha(const QSqlQuery& q)
     modBancoDados::BDTrataErro(erro);
 }
 
-QSqlQuery& ComandosPreparados::roda(const QString& sql, const QVariantList& valores)
+ComandoSqlite& ComandosPreparados::roda(const QString& sql, const QVariantList& valores)
 {
-    auto it = m_consultas.find(sql);
-    if (it == m_consultas.end()) {
-        auto q = std::make_shared<QSqlQuery>(modBancoDados::ConexaoBanco());
-        q->setForwardOnly(true);
-        if (!q->prepare(comNomes(sql)))
-            modBancoDados::BDTrataErro(q->lastError());
-        it = m_consultas.insert(sql, std::move(q));
+    auto it = m_comandos.find(sql);
+    if (it == m_comandos.end())
+        it = m_comandos.emplace(sql, std::make_unique<ComandoSqlite>(sql)).first;
+    ComandoSqlite& c = *it->second;
+    // A null QString would be bound as NULL; the reader stores empty fields as empty texts.
+    const auto textoNulo = [](const QVariant& v) {
+        return v.typeId() == QMetaType::QString && static_cast<const QString*>(v.constData())->isNull();
+    };
+    bool temNulo = false;
+    for (const QVariant& v : valores)
+        temNulo = temNulo || textoNulo(v);
+    bool ok = false;
+    if (temNulo) {
+        QVariantList semNulos = valores;
+        for (QVariant& v : semNulos) {
+            if (textoNulo(v))
+                v = QString(QLatin1String(""));
+        }
+        ok = c.roda(semNulos);
+    } else {
+        ok = c.roda(valores);
     }
-    QSqlQuery& q = **it;
-    for (int i = 0; i < valores.size(); ++i) {
-        const QVariant& v = valores.at(i);
-        // A null QString would be bound as NULL; the reader stores empty fields as empty texts.
-        if (v.typeId() == QMetaType::QString && static_cast<const QString*>(v.constData())->isNull())
-            q.bindValue(nomeDaPosicao(i), QString(QLatin1String("")));
-        else
-            q.bindValue(nomeDaPosicao(i), v);
-    }
-    if (!q.exec())
-        falha(q);
-    return q;
+    if (!ok)
+        falha(c.erro());
+    return c;
 }
 
 void ComandosPreparados::executa(const QString& sql, const QVariantList& valores)
 {
-    QSqlQuery& q = roda(sql, valores);
-    m_ultimaChave = q.lastInsertId();
-    q.finish();
+    ComandoSqlite& c = roda(sql, valores);
+    m_ultimaChave = c.ultimaChave();
+    c.encerra();
 }
 
 QVariant ComandosPreparados::valor(const QString& sql, const QVariantList& valores)
 {
-    QSqlQuery& q = roda(sql, valores);
-    QVariant v = q.next() ? q.value(0) : QVariant();
-    q.finish();
+    ComandoSqlite& c = roda(sql, valores);
+    QVariant v = c.proxima() ? c.valor(0) : QVariant();
+    c.encerra();
     return v;
 }
 
 bool ComandosPreparados::existe(const QString& sql, const QVariantList& valores)
 {
-    QSqlQuery& q = roda(sql, valores);
-    const bool achou = q.next();
-    q.finish();
+    ComandoSqlite& c = roda(sql, valores);
+    const bool achou = c.proxima();
+    c.encerra();
     return achou;
 }

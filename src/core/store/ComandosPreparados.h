@@ -2,16 +2,18 @@
 // The one cache of prepared statements: each statement is prepared once, on first use, and kept for the life
 // of the cache, keyed by its text (two texts that are equal share one statement, two that differ never do).
 // A long operation (reading a declaration file, a reference import) runs the same dozen statements a hundred
-// thousand times; preparing them per row would cost more than running them. Values are always bound. A statement
+// thousand times; preparing them per row would cost more than running them, and each runs through SQLite's own
+// interface (ComandoSqlite) on the session's connection. Values are always bound. A statement
 // that cannot be prepared, or a database held by another process, ends the run through BDTrataErro; a statement
 // the database refuses does what the caller chose (AntesDeFalhar).
-#include <QHash>
 #include <QSqlError>
-#include <QSqlQuery>
 #include <QString>
 #include <QVariant>
 #include <QVariantList>
 #include <memory>
+#include <unordered_map>
+
+class ComandoSqlite;
 
 // A row the database refused (a missing parent, a value too wide), thrown under AntesDeFalhar::Recusa.
 struct ComandoRecusado {
@@ -39,15 +41,15 @@ public:
     // Whether the query gives at least one row.
     bool existe(const QString& sql, const QVariantList& valores);
     // How many different statements the cache holds.
-    int quantidade() const { return int(m_consultas.size()); }
+    int quantidade() const { return int(m_comandos.size()); }
 
     // A text value as the reader stores it: never Null, so that an empty field is stored as an empty text.
     static QVariant texto(const QString& valor);
 
 private:
-    QSqlQuery& roda(const QString& sql, const QVariantList& valores);
-    [[noreturn]] void falha(const QSqlQuery& q);
-    QHash<QString, std::shared_ptr<QSqlQuery>> m_consultas;
+    ComandoSqlite& roda(const QString& sql, const QVariantList& valores);
+    [[noreturn]] void falha(const QSqlError& erro);
+    std::unordered_map<QString, std::unique_ptr<ComandoSqlite>> m_comandos;
     QVariant m_ultimaChave;
     AntesDeFalhar m_antes;
 };

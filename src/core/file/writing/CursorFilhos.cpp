@@ -1,17 +1,14 @@
 #include "core/file/writing/CursorFilhos.h"
 
-#include "core/store/modBancoDados.h"
-
-CursorFilhos::CursorFilhos(const QString& sql, const QVariantList& valores) : m_rs(modBancoDados::ConexaoBanco())
+CursorFilhos::CursorFilhos(const QString& sql, const QVariantList& valores) : m_rs(sql)
 {
-    m_rs.setForwardOnly(true);
-    modBancoDados::AbreConsulta(m_rs, sql, valores);
+    m_rs.abre(valores);
     avanca();
 }
 
 void CursorFilhos::avanca()
 {
-    m_valida = m_rs.next();
+    m_valida = m_rs.proxima();
     if (m_valida)
-        m_chave = m_rs.value(0).toLongLong();
+        m_chave = m_rs.inteiro(0);
 }

@@ -5,7 +5,8 @@
 //   CursorFilhos destinos(sql, {id});          // column 0 is the parent's key
 //   while (destinos.de(idItem)) { ... destinos.texto(3) ...; destinos.avanca(); }
 // The query's filter must select exactly the parents the writer visits, in the writer's order.
-#include <QSqlQuery>
+#include "core/store/ComandoSqlite.h"
+
 #include <QString>
 #include <QVariant>
 #include <QVariantList>
@@ -16,11 +17,11 @@ public:
     // The current row belongs to that parent.
     bool de(qint64 chave) const { return m_valida && m_chave == chave; }
     void avanca();
-    QString texto(int coluna) const { return m_rs.value(coluna).toString(); }
-    QVariant valor(int coluna) const { return m_rs.value(coluna); }
+    QString texto(int coluna) const { return m_rs.texto(coluna); }
+    QVariant valor(int coluna) const { return m_rs.valor(coluna); }
 
 private:
-    QSqlQuery m_rs;
+    ComandoSqlite m_rs;
     bool m_valida = false;
     qint64 m_chave = 0;
 };

@@ -1,8 +1,7 @@
 #include "core/file/writing/DocumentosInsumoMensal.h"
 
+#include "core/store/ComandoSqlite.h"
 #include "core/store/modBancoDados.h"
-
-#include <QSqlQuery>
 
 using namespace modBancoDados;
 
@@ -44,15 +43,14 @@ QString DocumentosInsumoMensal::chave(const QString& insumo, const QString& dest
 
 void DocumentosInsumoMensal::carrega(Linhas Grupo::*tipo, const QString& sql, const QString& id, int colunas)
 {
-    QSqlQuery rs(ConexaoBanco());
-    rs.setForwardOnly(true);
-    AbreConsulta(rs, sql, {id});
-    while (rs.next()) {
+    ComandoSqlite rs(sql);
+    rs.abre({id});
+    while (rs.proxima()) {
         QStringList linha;
         linha.reserve(colunas);
         for (int c = 0; c < colunas; ++c)
-            linha.append(rs.value(c + 2).toString());
-        (m_grupos[chave(rs.value(0).toString(), rs.value(1).toString())].*tipo).append(linha);
+            linha.append(rs.texto(c + 2));
+        (m_grupos[chave(rs.texto(0), rs.texto(1))].*tipo).append(linha);
     }
 }
 

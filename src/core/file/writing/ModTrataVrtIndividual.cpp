@@ -2,6 +2,7 @@
 
 #include "core/file/writing/CabecalhoVrt.h"
 #include "core/file/writing/CursorFilhos.h"
+#include "core/store/ComandoSqlite.h"
 #include "core/file/writing/EscritaRegistro.h"
 #include "core/file/writing/GravaVrt.h"
 #include "core/file/writing/LinhaRegistro.h"
@@ -60,17 +61,17 @@ public:
     void escreveItens();
 
 private:
-    LinhaRegistro comItem(int tipo, const QSqlQuery& item) const;
-    void produtoEstrangeiro(const QSqlQuery& item);
+    LinhaRegistro comItem(int tipo, const ComandoSqlite& item) const;
+    void produtoEstrangeiro(const ComandoSqlite& item);
     void registro12(qint64 item);
     void registro13(qint64 item);
     void registro14(qint64 item);
-    void produtoComPPB(const QSqlQuery& item);
-    void produtoSemPPB(const QSqlQuery& item);
+    void produtoComPPB(const ComandoSqlite& item);
+    void produtoSemPPB(const ComandoSqlite& item);
     void registro34(qint64 insumo);
     void registro35(qint64 insumo);
     void registro36(qint64 insumo);
-    void produtoNacional(const QSqlQuery& item);
+    void produtoNacional(const ComandoSqlite& item);
 
     const CabecalhoVrt& m_cab;
     GravacaoVrt& m_run;
@@ -154,9 +155,7 @@ void EscritaIndividual::escreveItens()
             m_totalInsumo.insert(rs.value(0).toString(), rs.value(1).toString());
     }
 
-    QSqlQuery item(ConexaoBanco());
-    item.setForwardOnly(true);
-    AbreConsulta(item,
+    ComandoSqlite item(
                  QStringLiteral("SELECT t.ID_ITEM, t.IND_MOD_INTERNACAO, t.NR_ITEM_NF_SAIDA, t.CD_INT_PROD, "
                                 "t.NM_INT_PROD, t.NM_UNID_MED_PROD, t.CD_NCM_PROD, "
                                 "pe.ID_ITEM, pe.QT_INT_UNID_NFS, pe.QT_INT_UNID_EST, pe.VL_INT_UNID_NFS, "
@@ -173,47 +172,47 @@ void EscritaIndividual::escreveItens()
                                 "LEFT JOIN DCR r ON r.ID_DCR = (SELECT MIN(ID_DCR) FROM DCR WHERE ID_ITEM = t.ID_ITEM) "
                                 "LEFT JOIN ITEM_NFS_PI_SEM_PPB sp ON sp.ID_ITEM = t.ID_ITEM "
                                 "LEFT JOIN ITEM_NFS_100 na ON na.ID_ITEM = t.ID_ITEM "
-                                "WHERE t.ID_NFS = ? ORDER BY t.ID_ITEM"),
-                 nfs);
-    while (item.next()) {
+                                "WHERE t.ID_NFS = ? ORDER BY t.ID_ITEM"));
+    item.abre({nfs});
+    while (item.proxima()) {
         // An item without the row of its modality's table writes nothing.
-        const QString modalidade = item.value(ItModalidade).toString();
-        if (modalidade == QLatin1String("1") && !item.value(PeId).isNull())
+        const QString modalidade = item.texto(ItModalidade);
+        if (modalidade == QLatin1String("1") && !item.valor(PeId).isNull())
             produtoEstrangeiro(item);
-        else if (modalidade == QLatin1String("2") && !item.value(CpId).isNull())
+        else if (modalidade == QLatin1String("2") && !item.valor(CpId).isNull())
             produtoComPPB(item);
-        else if (modalidade == QLatin1String("3") && !item.value(SpId).isNull())
+        else if (modalidade == QLatin1String("3") && !item.valor(SpId).isNull())
             produtoSemPPB(item);
-        else if (modalidade == QLatin1String("4") && !item.value(NaId).isNull())
+        else if (modalidade == QLatin1String("4") && !item.valor(NaId).isNull())
             produtoNacional(item);
     }
 }
 
-LinhaRegistro EscritaIndividual::comItem(int tipo, const QSqlQuery& item) const
+LinhaRegistro EscritaIndividual::comItem(int tipo, const ComandoSqlite& item) const
 {
     LinhaRegistro r(layout(tipo));
-    r.poe(QStringLiteral("NR_ITEM_NF_SAIDA"), item.value(ItNrItem).toString());
+    r.poe(QStringLiteral("NR_ITEM_NF_SAIDA"), item.texto(ItNrItem));
     return r;
 }
 
-void EscritaIndividual::produtoEstrangeiro(const QSqlQuery& item)
+void EscritaIndividual::produtoEstrangeiro(const ComandoSqlite& item)
 {
     LinhaRegistro r = comItem(11, item);
-    r.poe(QStringLiteral("CD_NCM_PROD"), item.value(ItNcm).toString());
-    r.poe(QStringLiteral("CD_INT_PROD"), item.value(ItCodigo).toString());
+    r.poe(QStringLiteral("CD_NCM_PROD"), item.texto(ItNcm));
+    r.poe(QStringLiteral("CD_INT_PROD"), item.texto(ItCodigo));
     r.poe(QStringLiteral("CD_LOCAL_DESTINO"), m_cab.destino);
-    r.poe(QStringLiteral("NM_INT_PROD"), item.value(ItNome).toString());
-    poeSeNaoBranco(r, "JUST_II_DIF_TEC", item.value(JuII));
-    poeSeNaoBranco(r, "ALIQ_II_DIF_TEC", item.value(JuAliqII));
-    poeSeNaoBranco(r, "JUST_IPI_DIF_TIPI", item.value(JuIPI));
-    poeSeNaoBranco(r, "ALIQ_IPI_DIF_TIPI", item.value(JuAliqIPI));
-    r.poe(QStringLiteral("NM_UNID_MED_PROD"), item.value(ItUnidade).toString());
-    r.poe(QStringLiteral("QT_INT_UNID_NFS"), item.value(PeQtNfs).toString());
-    r.poe(QStringLiteral("QT_INT_UNID_EST"), item.value(PeQtEst).toString());
-    r.poe(QStringLiteral("VL_INT_UNID_NFS"), item.value(PeVlNfs).toString());
-    r.poe(QStringLiteral("VL_IPI_DESTACADO"), item.value(PeIpi).toString());
+    r.poe(QStringLiteral("NM_INT_PROD"), item.texto(ItNome));
+    poeSeNaoBranco(r, "JUST_II_DIF_TEC", item.valor(JuII));
+    poeSeNaoBranco(r, "ALIQ_II_DIF_TEC", item.valor(JuAliqII));
+    poeSeNaoBranco(r, "JUST_IPI_DIF_TIPI", item.valor(JuIPI));
+    poeSeNaoBranco(r, "ALIQ_IPI_DIF_TIPI", item.valor(JuAliqIPI));
+    r.poe(QStringLiteral("NM_UNID_MED_PROD"), item.texto(ItUnidade));
+    r.poe(QStringLiteral("QT_INT_UNID_NFS"), item.texto(PeQtNfs));
+    r.poe(QStringLiteral("QT_INT_UNID_EST"), item.texto(PeQtEst));
+    r.poe(QStringLiteral("VL_INT_UNID_NFS"), item.texto(PeVlNfs));
+    r.poe(QStringLiteral("VL_IPI_DESTACADO"), item.texto(PeIpi));
     m_saida.escreve(r);
-    const qint64 id = item.value(ItId).toLongLong();
+    const qint64 id = item.inteiro(ItId);
     registro12(id);
     registro13(id);
     registro14(id);
@@ -255,38 +254,38 @@ void EscritaIndividual::registro14(qint64 item)
     EscritaRegistro::escreveRegistros14(m_saida, layout(14), *m_dsi, item, nomesProduto());
 }
 
-void EscritaIndividual::produtoComPPB(const QSqlQuery& item)
+void EscritaIndividual::produtoComPPB(const ComandoSqlite& item)
 {
-    const QString tipo = item.value(CpTipo).toString();
+    const QString tipo = item.texto(CpTipo);
     LinhaRegistro r = comItem(21, item);
     r.poe(QStringLiteral("CD_LOCAL_DESTINO"), m_cab.destino);
-    r.poe(QStringLiteral("CD_INT_PROD"), item.value(ItCodigo).toString());
-    r.poe(QStringLiteral("NM_INT_PROD"), item.value(ItNome).toString());
+    r.poe(QStringLiteral("CD_INT_PROD"), item.texto(ItCodigo));
+    r.poe(QStringLiteral("NM_INT_PROD"), item.texto(ItNome));
     if (tipo == QLatin1String("1")) {
-        r.poe(QStringLiteral("NR_DCRE"), item.value(DcreNumero).toString());
-        r.poe(QStringLiteral("QT_PRODUTO"), item.value(DcreQuantidade).toString());
+        r.poe(QStringLiteral("NR_DCRE"), item.texto(DcreNumero));
+        r.poe(QStringLiteral("QT_PRODUTO"), item.texto(DcreQuantidade));
     } else if (tipo == QLatin1String("2")) {
-        r.poe(QStringLiteral("NR_DCR"), item.value(DcrNumero).toString());
-        r.poe(QStringLiteral("VL_II_UNIT_DOLAR"), item.value(DcrVlII).toString());
-        r.poe(QStringLiteral("PC_COEF_REDUCAO_II"), item.value(DcrCoef).toString());
-        r.poe(QStringLiteral("QT_PRODUTO"), item.value(DcrQuantidade).toString());
+        r.poe(QStringLiteral("NR_DCR"), item.texto(DcrNumero));
+        r.poe(QStringLiteral("VL_II_UNIT_DOLAR"), item.texto(DcrVlII));
+        r.poe(QStringLiteral("PC_COEF_REDUCAO_II"), item.texto(DcrCoef));
+        r.poe(QStringLiteral("QT_PRODUTO"), item.texto(DcrQuantidade));
         // Only a DCR item carries its unit; a DCR-E item leaves the field blank.
-        r.poe(QStringLiteral("NM_UNID_MED_PROD"), item.value(ItUnidade).toString());
+        r.poe(QStringLiteral("NM_UNID_MED_PROD"), item.texto(ItUnidade));
     }
-    r.poe(QStringLiteral("VL_PIS"), item.value(CpPis).toString());
-    r.poe(QStringLiteral("VL_COFINS"), item.value(CpCofins).toString());
+    r.poe(QStringLiteral("VL_PIS"), item.texto(CpPis));
+    r.poe(QStringLiteral("VL_COFINS"), item.texto(CpCofins));
     m_saida.escreve(r);
 }
 
-void EscritaIndividual::produtoSemPPB(const QSqlQuery& item)
+void EscritaIndividual::produtoSemPPB(const ComandoSqlite& item)
 {
     LinhaRegistro r = comItem(31, item);
-    r.poe(QStringLiteral("CD_INT_PROD"), item.value(ItCodigo).toString());
-    r.poe(QStringLiteral("NM_INT_PROD"), item.value(ItNome).toString());
-    r.poe(QStringLiteral("NM_UNID_MED_PROD"), item.value(ItUnidade).toString());
-    r.poe(QStringLiteral("CD_NCM_PROD"), item.value(ItNcm).toString());
-    r.poe(QStringLiteral("QT_INT_UNID_NFS"), item.value(SpQtNfs).toString());
-    r.poe(QStringLiteral("VL_INT_UNID_NFS"), item.value(SpVlNfs).toString());
+    r.poe(QStringLiteral("CD_INT_PROD"), item.texto(ItCodigo));
+    r.poe(QStringLiteral("NM_INT_PROD"), item.texto(ItNome));
+    r.poe(QStringLiteral("NM_UNID_MED_PROD"), item.texto(ItUnidade));
+    r.poe(QStringLiteral("CD_NCM_PROD"), item.texto(ItNcm));
+    r.poe(QStringLiteral("QT_INT_UNID_NFS"), item.texto(SpQtNfs));
+    r.poe(QStringLiteral("VL_INT_UNID_NFS"), item.texto(SpVlNfs));
     // Only the invoice's destination is marked; the quantities stay zero.
     for (int d = 1; d <= 4; ++d) {
         const QString codigo = QString::number(d);
@@ -299,11 +298,11 @@ void EscritaIndividual::produtoSemPPB(const QSqlQuery& item)
                                   {"NM_UNID_MED_INSUMO", Unidade}, {"QT_INSUMO_POR_PROD", Quantidade}};
     static const Colunas justificativas33{{"JUST_II_DIF_TEC", JustII}, {"ALIQ_II_DIF_TEC", AliqII},
                                           {"JUST_IPI_DIF_TIPI", JustIPI}, {"ALIQ_IPI_DIF_TIPI", AliqIPI}};
-    const qint64 idItem = item.value(ItId).toLongLong();
+    const qint64 idItem = item.inteiro(ItId);
     for (; m_insumos->de(idItem); m_insumos->avanca()) {
         const CursorFilhos& x = *m_insumos;
         LinhaRegistro r32 = comItem(32, item);
-        r32.poe(QStringLiteral("CD_INT_PROD"), item.value(ItCodigo).toString());
+        r32.poe(QStringLiteral("CD_INT_PROD"), item.texto(ItCodigo));
         poe(r32, x, campos32);
         m_saida.escreve(r32);
 
@@ -375,16 +374,16 @@ void EscritaIndividual::registro36(qint64 insumo)
     }
 }
 
-void EscritaIndividual::produtoNacional(const QSqlQuery& item)
+void EscritaIndividual::produtoNacional(const ComandoSqlite& item)
 {
     LinhaRegistro r = comItem(41, item);
-    r.poe(QStringLiteral("CD_NCM_PROD"), item.value(ItNcm).toString());
-    r.poe(QStringLiteral("CD_INT_PROD"), item.value(ItCodigo).toString());
-    r.poe(QStringLiteral("NM_INT_PROD"), item.value(ItNome).toString());
-    r.poe(QStringLiteral("NM_UNID_MED_PROD"), item.value(ItUnidade).toString());
-    r.poe(QStringLiteral("QT_INT_UNID_NFS"), item.value(NaQtNfs).toString());
-    r.poe(QStringLiteral("QT_INT_UNID_EST"), item.value(NaQtEst).toString());
-    r.poe(QStringLiteral("VL_INT_UNID_NFS"), item.value(NaVlNfs).toString());
+    r.poe(QStringLiteral("CD_NCM_PROD"), item.texto(ItNcm));
+    r.poe(QStringLiteral("CD_INT_PROD"), item.texto(ItCodigo));
+    r.poe(QStringLiteral("NM_INT_PROD"), item.texto(ItNome));
+    r.poe(QStringLiteral("NM_UNID_MED_PROD"), item.texto(ItUnidade));
+    r.poe(QStringLiteral("QT_INT_UNID_NFS"), item.texto(NaQtNfs));
+    r.poe(QStringLiteral("QT_INT_UNID_EST"), item.texto(NaQtEst));
+    r.poe(QStringLiteral("VL_INT_UNID_NFS"), item.texto(NaVlNfs));
     m_saida.escreve(r);
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/file/writing/CabecalhoVrt.h"
 #include "core/file/writing/CursorFilhos.h"
+#include "core/store/ComandoSqlite.h"
 #include "core/file/writing/DocumentosInsumoMensal.h"
 #include "core/file/writing/EscritaRegistro.h"
 #include "core/file/writing/GravaVrt.h"
@@ -61,16 +62,16 @@ public:
 
 private:
     QVector<Destino> destinosDoItem(qint64 item);
-    void produtoEstrangeiro(const QSqlQuery& item, const QVector<Destino>& destinos);
+    void produtoEstrangeiro(const ComandoSqlite& item, const QVector<Destino>& destinos);
     void registro12(qint64 destino);
     void registro13(qint64 destino);
     void registro14(qint64 destino);
-    void produtoComPPB(const QSqlQuery& item, const QVector<Destino>& destinos);
-    void produtoSemPPB(const QSqlQuery& item, const QVector<Destino>& destinos);
-    void insumo(const QSqlQuery& item, const QVector<Destino>& destinos);
+    void produtoComPPB(const ComandoSqlite& item, const QVector<Destino>& destinos);
+    void produtoSemPPB(const ComandoSqlite& item, const QVector<Destino>& destinos);
+    void insumo(const ComandoSqlite& item, const QVector<Destino>& destinos);
     void registro33(const QString& insumo, const QString& destino);
     void documentosDoInsumo(const QString& insumo, const QString& destino);
-    void produtoNacional(const QSqlQuery& item);
+    void produtoNacional(const ComandoSqlite& item);
     void preparaInsumos();
 
     const CabecalhoVrt& m_cab;
@@ -128,9 +129,7 @@ void EscritaMensal::escreveItens()
             + dePE + QStringLiteral("x.ID_ITEM_DSI"),
         QVariantList{id});
 
-    QSqlQuery item(ConexaoBanco());
-    item.setForwardOnly(true);
-    AbreConsulta(item,
+    ComandoSqlite item(
                  QStringLiteral("SELECT i.ID_ITEM_VRT, i.IND_MOD_INTERNACAO, i.CD_NCM_PRODUTO, i.CD_INT_PRODUTO, "
                                 "i.NM_INT_PRODUTO, i.NM_UNID_MED_PROD, i.QT_PROD_UNID_EST, i.QT_PROD_UNID_PROD, "
                                 "i.VL_PROD_UNID_PROD, j.JUST_II_DIF_TEC, j.ALIQ_II_DIF_TEC, j.JUST_IPI_DIF_TIPI, "
@@ -138,11 +137,11 @@ void EscritaMensal::escreveItens()
                                 "LEFT JOIN JUST_DIF_ALIQ_PROD_VRT_MEN j ON j.ID_ITEM_VRT = i.ID_ITEM_VRT "
                                 "LEFT JOIN ITEM_VRT_MEN_PI_COM_PPB p ON p.rowid = (SELECT MIN(q.rowid) FROM "
                                 "ITEM_VRT_MEN_PI_COM_PPB q WHERE q.ID_ITEM_VRT = i.ID_ITEM_VRT) "
-                                "WHERE i.ID_VRT_MICRO = ? ORDER BY i.IND_MOD_INTERNACAO, i.ID_ITEM_VRT"),
-                 {id});
-    while (item.next()) {
-        const QString modalidade = item.value(ItModalidade).toString();
-        const qint64 idItem = item.value(ItId).toLongLong();
+                                "WHERE i.ID_VRT_MICRO = ? ORDER BY i.IND_MOD_INTERNACAO, i.ID_ITEM_VRT"));
+    item.abre({id});
+    while (item.proxima()) {
+        const QString modalidade = item.texto(ItModalidade);
+        const qint64 idItem = item.inteiro(ItId);
         if (modalidade == QLatin1String("1")) {
             produtoEstrangeiro(item, destinosDoItem(idItem));
         } else if (modalidade == QLatin1String("2")) {
@@ -175,22 +174,22 @@ QVector<Destino> EscritaMensal::destinosDoItem(qint64 item)
     return v;
 }
 
-void EscritaMensal::produtoEstrangeiro(const QSqlQuery& item, const QVector<Destino>& destinos)
+void EscritaMensal::produtoEstrangeiro(const ComandoSqlite& item, const QVector<Destino>& destinos)
 {
     for (const Destino& d : destinos) {
         LinhaRegistro r(layout(11));
-        r.poe(QStringLiteral("CD_NCM_PRODUTO"), item.value(ItNcm).toString());
-        r.poe(QStringLiteral("CD_INT_PRODUTO"), item.value(ItCodigo).toString());
+        r.poe(QStringLiteral("CD_NCM_PRODUTO"), item.texto(ItNcm));
+        r.poe(QStringLiteral("CD_INT_PRODUTO"), item.texto(ItCodigo));
         r.poe(QStringLiteral("CD_LOCAL_DESTINO"), d.codigo);
-        r.poe(QStringLiteral("NM_INT_PRODUTO"), item.value(ItNome).toString());
+        r.poe(QStringLiteral("NM_INT_PRODUTO"), item.texto(ItNome));
         // A justification row fills both pairs; without one they stay blanks and zeros.
-        r.poe(QStringLiteral("JUST_II_DIF_TEC"), item.value(ItJustII).toString());
-        r.poe(QStringLiteral("ALIQ_II_DIF_TEC"), item.value(ItAliqII).toString());
-        r.poe(QStringLiteral("JUST_IPI_DIF_TIPI"), item.value(ItJustIPI).toString());
-        r.poe(QStringLiteral("ALIQ_IPI_DIF_TIPI"), item.value(ItAliqIPI).toString());
-        r.poe(QStringLiteral("QT_PROD_UNID_EST"), item.value(ItQtEst).toString());
+        r.poe(QStringLiteral("JUST_II_DIF_TEC"), item.texto(ItJustII));
+        r.poe(QStringLiteral("ALIQ_II_DIF_TEC"), item.texto(ItAliqII));
+        r.poe(QStringLiteral("JUST_IPI_DIF_TIPI"), item.texto(ItJustIPI));
+        r.poe(QStringLiteral("ALIQ_IPI_DIF_TIPI"), item.texto(ItAliqIPI));
+        r.poe(QStringLiteral("QT_PROD_UNID_EST"), item.texto(ItQtEst));
         r.poe(QStringLiteral("QT_PROD_LOC_DEST"), d.quantidade);
-        r.poe(QStringLiteral("NM_UNID_MED_PROD"), item.value(ItUnidade).toString());
+        r.poe(QStringLiteral("NM_UNID_MED_PROD"), item.texto(ItUnidade));
         m_saida.escreve(r);
         registro12(d.id);
         registro13(d.id);
@@ -233,22 +232,22 @@ void EscritaMensal::registro14(qint64 destino)
     EscritaRegistro::escreveRegistros14(m_saida, layout(14), *m_dsi, destino, nomesProduto());
 }
 
-void EscritaMensal::produtoComPPB(const QSqlQuery& item, const QVector<Destino>& destinos)
+void EscritaMensal::produtoComPPB(const ComandoSqlite& item, const QVector<Destino>& destinos)
 {
-    const QString tipo = item.value(ItTipoCoef).toString();
-    const QString numero = item.value(ItNrDcreDcr).toString();
+    const QString tipo = item.texto(ItTipoCoef);
+    const QString numero = item.texto(ItNrDcreDcr);
     for (const Destino& d : destinos) {
         LinhaRegistro r(layout(21));
         r.poe(QStringLiteral("CD_LOCAL_DESTINO"), d.codigo);
         if (tipo == QLatin1String("1"))
             r.poe(QStringLiteral("NR_DCRE"), numero);
-        r.poe(QStringLiteral("CD_INT_PRODUTO"), item.value(ItCodigo).toString());
+        r.poe(QStringLiteral("CD_INT_PRODUTO"), item.texto(ItCodigo));
         if (tipo == QLatin1String("2")) {
             r.poe(QStringLiteral("NR_DCR"), numero);
             r.poe(QStringLiteral("VL_II_UNIT_DOLAR"), d.vlII);
             r.poe(QStringLiteral("PC_COEF_REDUCAO_II"), d.pcCoef);
         }
-        r.poe(QStringLiteral("NM_INT_PRODUTO"), item.value(ItNome).toString());
+        r.poe(QStringLiteral("NM_INT_PRODUTO"), item.texto(ItNome));
         r.poe(QStringLiteral("QT_PROD_LOC_DEST"), d.quantidade);
         r.poe(QStringLiteral("NM_UNID_MED_DEST"), d.unidade);
         r.poe(QStringLiteral("VL_PIS"), d.pis);
@@ -290,13 +289,13 @@ void EscritaMensal::preparaInsumos()
                                  tot.value(2).toString());
 }
 
-void EscritaMensal::produtoSemPPB(const QSqlQuery& item, const QVector<Destino>& destinos)
+void EscritaMensal::produtoSemPPB(const ComandoSqlite& item, const QVector<Destino>& destinos)
 {
     LinhaRegistro r(layout(31));
-    r.poe(QStringLiteral("CD_INT_PRODUTO"), item.value(ItCodigo).toString());
-    r.poe(QStringLiteral("NM_INT_PRODUTO"), item.value(ItNome).toString());
-    r.poe(QStringLiteral("NM_UNID_MED_PROD"), item.value(ItUnidade).toString());
-    r.poe(QStringLiteral("CD_NCM_PRODUTO"), item.value(ItNcm).toString());
+    r.poe(QStringLiteral("CD_INT_PRODUTO"), item.texto(ItCodigo));
+    r.poe(QStringLiteral("NM_INT_PRODUTO"), item.texto(ItNome));
+    r.poe(QStringLiteral("NM_UNID_MED_PROD"), item.texto(ItUnidade));
+    r.poe(QStringLiteral("CD_NCM_PRODUTO"), item.texto(ItNcm));
     // One pair per destination code; a code without a row keeps its zeros.
     for (const Destino& d : destinos) {
         if (d.codigo.size() == 1 && d.codigo >= QLatin1String("1") && d.codigo <= QLatin1String("4"))
@@ -306,17 +305,17 @@ void EscritaMensal::produtoSemPPB(const QSqlQuery& item, const QVector<Destino>&
     insumo(item, destinos);
 }
 
-void EscritaMensal::insumo(const QSqlQuery& item, const QVector<Destino>& destinos)
+void EscritaMensal::insumo(const ComandoSqlite& item, const QVector<Destino>& destinos)
 {
     enum { Id = 1, Codigo, Ncm, Nome, Unidade, Quantidade, JustII, AliqII, JustIPI, AliqIPI };
     static const Colunas campos32{{"CD_INT_INSUMO", Codigo}, {"CD_NCM_INSUMO", Ncm}, {"NM_INT_INSUMO", Nome},
                                   {"NM_UNID_MED_INSUMO", Unidade}, {"QT_INSUMO_POR_PROD", Quantidade}};
-    const qint64 idItem = item.value(ItId).toLongLong();
+    const qint64 idItem = item.inteiro(ItId);
     for (; m_insumos->de(idItem); m_insumos->avanca()) {
         const CursorFilhos& x = *m_insumos;
         const QString codigo = x.texto(Codigo);
         LinhaRegistro r(layout(32));
-        r.poe(QStringLiteral("CD_INT_PRODUTO"), item.value(ItCodigo).toString());
+        r.poe(QStringLiteral("CD_INT_PRODUTO"), item.texto(ItCodigo));
         poe(r, x, campos32);
         m_saida.escreve(r);
 
@@ -408,16 +407,16 @@ void EscritaMensal::documentosDoInsumo(const QString& insumo, const QString& des
     }
 }
 
-void EscritaMensal::produtoNacional(const QSqlQuery& item)
+void EscritaMensal::produtoNacional(const ComandoSqlite& item)
 {
     LinhaRegistro r(layout(41));
-    r.poe(QStringLiteral("CD_NCM_PRODUTO"), item.value(ItNcm).toString());
-    r.poe(QStringLiteral("CD_INT_PRODUTO"), item.value(ItCodigo).toString());
-    r.poe(QStringLiteral("NM_INT_PRODUTO"), item.value(ItNome).toString());
-    r.poe(QStringLiteral("NM_UNID_MED_PROD"), item.value(ItUnidade).toString());
-    r.poe(QStringLiteral("VL_PROD_UNID_PROD"), item.value(ItVlProd).toString());
-    r.poe(QStringLiteral("QT_PROD_UNID_PROD"), item.value(ItQtProd).toString());
-    r.poe(QStringLiteral("QT_PROD_UNID_EST"), item.value(ItQtEst).toString());
+    r.poe(QStringLiteral("CD_NCM_PRODUTO"), item.texto(ItNcm));
+    r.poe(QStringLiteral("CD_INT_PRODUTO"), item.texto(ItCodigo));
+    r.poe(QStringLiteral("NM_INT_PRODUTO"), item.texto(ItNome));
+    r.poe(QStringLiteral("NM_UNID_MED_PROD"), item.texto(ItUnidade));
+    r.poe(QStringLiteral("VL_PROD_UNID_PROD"), item.texto(ItVlProd));
+    r.poe(QStringLiteral("QT_PROD_UNID_PROD"), item.texto(ItQtProd));
+    r.poe(QStringLiteral("QT_PROD_UNID_EST"), item.texto(ItQtEst));
     m_saida.escreve(r);
 }
 

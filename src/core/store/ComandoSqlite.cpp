@@ -1,0 +1,202 @@
+#include "core/store/ComandoSqlite.h"
+
+#include "core/store/modBancoDados.h"
+
+#include <QCoreApplication>
+#include <QSqlDriver>
+#include <sqlite3.h>
+
+namespace {
+
+QSqlError erroDoBanco(sqlite3* db, const char* oQue, QSqlError::ErrorType tipo, int codigo)
+{
+    return QSqlError(QCoreApplication::translate("QSQLiteResult", oQue), QString::fromUtf8(sqlite3_errmsg(db)), tipo,
+                     QString::number(codigo));
+}
+
+}  // namespace
+
+sqlite3* ComandoSqlite::conexao()
+{
+    const QVariant h = modBancoDados::ConexaoBanco().driver()->handle();
+    if (!h.isValid() || qstrcmp(h.typeName(), "sqlite3*") != 0)
+        modBancoDados::BDTrataErro(QStringLiteral("3024"), QStringLiteral("O banco de dados não está aberto."));
+    sqlite3* db = *static_cast<sqlite3* const*>(h.constData());
+    if (!db)
+        modBancoDados::BDTrataErro(QStringLiteral("3024"), QStringLiteral("O banco de dados não está aberto."));
+    return db;
+}
+
+ComandoSqlite::ComandoSqlite(const QString& sql) : m_db(conexao())
+{
+    const QByteArray texto = sql.toUtf8();
+    const char* resto = nullptr;
+    const int r = sqlite3_prepare_v2(m_db, texto.constData(), int(texto.size() + 1), &m_stmt, &resto);
+    if (r != SQLITE_OK)
+        modBancoDados::BDTrataErro(erroDoBanco(m_db, "Unable to execute statement", QSqlError::StatementError, r));
+    if (resto && *resto && QByteArray(resto).trimmed().size() > 0) {
+        modBancoDados::BDTrataErro(QSqlError(
+            QCoreApplication::translate("QSQLiteResult", "Unable to execute multiple statements at a time"),
+            QString(), QSqlError::StatementError));
+    }
+    m_textos.resize(sqlite3_bind_parameter_count(m_stmt));
+}
+
+ComandoSqlite::~ComandoSqlite()
+{
+    sqlite3_finalize(m_stmt);
+}
+
+void ComandoSqlite::liga(int posicao, const QVariant& v)
+{
+    const int i = posicao + 1;
+    // An invalid or null value is NULL, as Qt SQL binds it; a null QString or QByteArray too (below).
+    if (v.isNull()) {
+        sqlite3_bind_null(m_stmt, i);
+        return;
+    }
+    switch (v.typeId()) {
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Long:
+    case QMetaType::ULong:
+    case QMetaType::Short:
+    case QMetaType::UShort:
+        sqlite3_bind_int64(m_stmt, i, v.toLongLong());
+        return;
+    case QMetaType::Double:
+    case QMetaType::Float:
+        sqlite3_bind_double(m_stmt, i, v.toDouble());
+        return;
+    case QMetaType::QByteArray: {
+        if (static_cast<const QByteArray*>(v.constData())->isNull()) {
+            sqlite3_bind_null(m_stmt, i);
+            return;
+        }
+        m_textos[posicao] = v.toByteArray();
+        const QByteArray& b = m_textos.at(posicao);
+        sqlite3_bind_blob(m_stmt, i, b.constData(), int(b.size()), SQLITE_STATIC);
+        return;
+    }
+    case QMetaType::QString: {
+        const QString& texto = *static_cast<const QString*>(v.constData());
+        if (texto.isNull()) {
+            sqlite3_bind_null(m_stmt, i);
+            return;
+        }
+        m_textos[posicao] = texto.toUtf8();
+        break;
+    }
+    default:
+        m_textos[posicao] = v.toString().toUtf8();
+        break;
+    }
+    const QByteArray& t = m_textos.at(posicao);
+    sqlite3_bind_text(m_stmt, i, t.constData(), int(t.size()), SQLITE_STATIC);
+}
+
+bool ComandoSqlite::passo()
+{
+    const int r = sqlite3_step(m_stmt);
+    if (r == SQLITE_ROW)
+        return true;
+    m_noFim = true;
+    if (r == SQLITE_DONE)
+        return false;
+    m_erro = erroDoBanco(m_db, "Unable to fetch row", QSqlError::ConnectionError, r);
+    sqlite3_reset(m_stmt);
+    return false;
+}
+
+bool ComandoSqlite::roda(const QVariantList& valores)
+{
+    sqlite3_reset(m_stmt);
+    m_erro = QSqlError();
+    m_temLinha = false;
+    if (valores.size() != m_textos.size()) {
+        m_erro = QSqlError(QCoreApplication::translate("QSQLiteResult", "Parameter count mismatch"), QString(),
+                           QSqlError::StatementError);
+        m_noFim = true;
+        return false;
+    }
+    for (int i = 0; i < valores.size(); ++i)
+        liga(i, valores.at(i));
+    m_noFim = false;
+    m_temLinha = passo();
+    return m_erro.type() == QSqlError::NoError;
+}
+
+void ComandoSqlite::abre(const QVariantList& valores)
+{
+    if (!roda(valores))
+        modBancoDados::BDTrataErro(m_erro);
+}
+
+bool ComandoSqlite::proxima()
+{
+    if (m_temLinha) {
+        m_temLinha = false;
+        return true;
+    }
+    if (m_noFim)
+        return false;
+    if (passo())
+        return true;
+    if (m_erro.type() != QSqlError::NoError)
+        modBancoDados::BDTrataErro(m_erro);
+    return false;
+}
+
+void ComandoSqlite::encerra()
+{
+    sqlite3_reset(m_stmt);
+    m_temLinha = false;
+    m_noFim = true;
+}
+
+QVariant ComandoSqlite::valor(int coluna) const
+{
+    switch (sqlite3_column_type(m_stmt, coluna)) {
+    case SQLITE_INTEGER:
+        return QVariant(qint64(sqlite3_column_int64(m_stmt, coluna)));
+    case SQLITE_FLOAT:
+        return QVariant(sqlite3_column_double(m_stmt, coluna));
+    case SQLITE_NULL:
+        return QVariant(QMetaType::fromType<QString>());
+    case SQLITE_BLOB:
+        return QByteArray(static_cast<const char*>(sqlite3_column_blob(m_stmt, coluna)),
+                          sqlite3_column_bytes(m_stmt, coluna));
+    default:
+        return texto(coluna);
+    }
+}
+
+QString ComandoSqlite::texto(int coluna) const
+{
+    switch (sqlite3_column_type(m_stmt, coluna)) {
+    case SQLITE_TEXT: {
+        const auto* t = reinterpret_cast<const char*>(sqlite3_column_text(m_stmt, coluna));
+        return QString::fromUtf8(t, sqlite3_column_bytes(m_stmt, coluna));
+    }
+    case SQLITE_NULL:
+        return QString();
+    default:
+        return valor(coluna).toString();
+    }
+}
+
+qint64 ComandoSqlite::inteiro(int coluna) const
+{
+    if (sqlite3_column_type(m_stmt, coluna) == SQLITE_INTEGER)
+        return sqlite3_column_int64(m_stmt, coluna);
+    return valor(coluna).toLongLong();
+}
+
+QVariant ComandoSqlite::ultimaChave() const
+{
+    const qint64 id = sqlite3_last_insert_rowid(m_db);
+    return id ? QVariant(id) : QVariant();
+}

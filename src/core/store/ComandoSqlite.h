@@ -1,0 +1,65 @@
+#pragma once
+// One statement run through SQLite's own interface, on the session's connection (the handle Qt SQL exposes):
+// same database, same transaction, same foreign keys and busy timeout as every QSqlQuery of the program.
+// The declaration reader and writer and the reference imports run a dozen statements a hundred thousand times;
+// through QSqlQuery each bound value and each column read is a QVariant and a trip through UTF-16, which costs
+// more than the engine's own work. Here a text goes to the engine as UTF-8 and comes back the same way.
+//
+//   ComandoSqlite c(QStringLiteral("SELECT A, B FROM T WHERE K = ?"));   // prepared once
+//   c.abre({chave});                         // binds and runs; an error ends the run (BDTrataErro)
+//   while (c.proxima()) ... c.texto(0) ... c.valor(1) ...
+//
+// Values and errors are what QSqlQuery gives for the same statement: a bound null QVariant (a null QString
+// included) is NULL; a column comes back as qint64, double, QString or QByteArray by its stored type, a NULL
+// as a null QString; a refused statement gives a QSqlError with SQLite's extended code and message.
+#include <QSqlError>
+#include <QString>
+#include <QVariant>
+#include <QVariantList>
+#include <QVector>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+class ComandoSqlite {
+public:
+    // Prepares `sql` ("?" placeholders) on ConexaoBanco(); a statement that cannot be prepared ends the run.
+    explicit ComandoSqlite(const QString& sql);
+    ~ComandoSqlite();
+    ComandoSqlite(const ComandoSqlite&) = delete;
+    ComandoSqlite& operator=(const ComandoSqlite&) = delete;
+
+    // Binds `valores` in order and takes the first step. False when the engine refused the statement: erro()
+    // says why and the statement is ready to run again. A row, if any, is then current (see proxima()).
+    bool roda(const QVariantList& valores);
+    // roda(), ending the run through BDTrataErro when the engine refuses, before the first row.
+    void abre(const QVariantList& valores);
+    // Moves to the next row: the first call after roda()/abre() gives the first row. False at the end.
+    bool proxima();
+    // Ends the current run early (the engine's locks and cursor are released).
+    void encerra();
+
+    // The current row's column as QSqlQuery::value() gives it.
+    QVariant valor(int coluna) const;
+    // The same as valor(coluna).toString(), without the QVariant.
+    QString texto(int coluna) const;
+    qint64 inteiro(int coluna) const;
+
+    // Key that the engine gave the last row inserted on this connection, or an invalid QVariant (no row yet).
+    QVariant ultimaChave() const;
+    const QSqlError& erro() const { return m_erro; }
+
+    // The engine's handle of the session's connection.
+    static sqlite3* conexao();
+
+private:
+    void liga(int posicao, const QVariant& v);
+    bool passo();
+
+    sqlite3* m_db = nullptr;
+    sqlite3_stmt* m_stmt = nullptr;
+    QVector<QByteArray> m_textos;  // the UTF-8 of the bound texts, alive until the next run
+    QSqlError m_erro;
+    bool m_temLinha = false;   // the step of roda() gave a row not yet handed out by proxima()
+    bool m_noFim = true;
+};
