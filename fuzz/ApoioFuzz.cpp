@@ -17,6 +17,10 @@ namespace ApoioFuzz {
 namespace {
 
 QStringList tabelasEntregues;
+// The connection's count of changed rows when the tables were last put back: while it stands still (most inputs
+// are refused before a row is written), there is nothing to put back, and copying every table would take most
+// of each run.
+qint64 mudancasAoRestaurar = -1;
 
 void executa(const QString& sql)
 {
@@ -34,6 +38,11 @@ QStringList linhas(const QString& sql)
     while (q.next())
         r << q.value(0).toString();
     return r;
+}
+
+qint64 mudancas()
+{
+    return linhas(QStringLiteral("SELECT total_changes()")).value(0).toLongLong();
 }
 
 }  // namespace
@@ -77,6 +86,8 @@ void AbreBancoEmMemoria()
 
 void RestauraBanco()
 {
+    if (mudancas() == mudancasAoRestaurar)
+        return;
     executa(QStringLiteral("PRAGMA foreign_keys = OFF"));
     for (const QString& t : tabelasEntregues) {
         executa(QStringLiteral("DELETE FROM main.%1").arg(t));
@@ -84,6 +95,7 @@ void RestauraBanco()
     }
     executa(QStringLiteral("DELETE FROM main.sqlite_sequence"));
     executa(QStringLiteral("PRAGMA foreign_keys = ON"));
+    mudancasAoRestaurar = mudancas();
 }
 
 QString Retrato()

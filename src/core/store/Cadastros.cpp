@@ -52,8 +52,9 @@ QList<QStringList> Lista(const TabelaCadastro& t, const QString& prefixo)
     sql += QStringLiteral(" FROM ") + t.tabela;
     QVariantList valores;
     if (!prefixo.isEmpty()) {
-        sql += QStringLiteral(" WHERE substr(%1, 1, ?) = ?").arg(t.colunaCodigo) + semCaixa(t);
-        valores << prefixo.size() << prefixo;
+        // The length as the database counts characters: QString counts 16-bit units.
+        sql += QStringLiteral(" WHERE substr(%1, 1, length(?)) = ?").arg(t.colunaCodigo) + semCaixa(t);
+        valores << prefixo << prefixo;
     }
     sql += QStringLiteral(" ORDER BY %1.%2").arg(t.tabela, t.colunaCodigo);
 
