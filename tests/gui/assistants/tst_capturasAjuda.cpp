@@ -13,6 +13,7 @@
 #include "gui/assistants/frmAssistenteVRT.h"
 #include "gui/assistants/frmManipulaArquivo.h"
 #include "gui/assistants/PainelCopiaVrt.h"
+#include "gui/widgets/MaskedField.h"
 #include "core/refdata/modImportacao.h"
 #include "gui/shell/frmVRTPLN.h"
 #include "core/session/modVRTPLN.h"
@@ -28,6 +29,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTreeView>
 #include <QTemporaryDir>
 #include <QtTest>
