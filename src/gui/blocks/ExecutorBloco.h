@@ -46,6 +46,7 @@ struct ColunaGrade {
     QString coluna;        // column or expression of the block's table
     int largura = 0;       // pixels; 0 hides the column
     QString formato;       // a number format for the text shown ("#,##0.00"), or none
+    QString maisLarga = QString();  // the widest value the column shows, so that none is cut (a list's longest entry)
 };
 
 struct DescricaoBloco {
@@ -96,6 +97,8 @@ public:
 
     // Carrega...: fills the grid and disables Alterar, Excluir and Limpar.
     void carrega();
+    // The chosen row is forgotten: no key and no row highlighted. Fields and buttons stay as they are.
+    void esqueceEscolha();
     // LimpaCampos...: lists unchosen, other fields emptied.
     void limpa();
     // Rebuilds a list field's entries, keeping its choice when the entry is still offered.
