@@ -11,6 +11,9 @@
 #include "core/store/modBancoDados.h"
 
 #include <QAction>
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
@@ -64,6 +67,37 @@ void monta()
     t.confirma();
 }
 
+// One Incluir on the tab "100% Nacional" with the 10,000 items in its grid, as a user makes it.
+void incluiNacional(frmVRTPLN& janela)
+{
+    ExecutaSql(QStringLiteral("INSERT INTO PRODUTO (CD_INT_PRODUTO, NM_INT_PRODUTO) VALUES ('NOVO', 'Produto novo')"));
+    frmAssistenteVRT::IdVrtAbrir = Id;
+    janela.abreTela(modVRTPLN::Mensal);
+    QWidget* tela = janela.telaAberta();
+    janela.telaAberta()->FuncaoForm(2);
+    QApplication::processEvents();
+    auto texto = [tela](const char* nome, const char* valor) {
+        tela->findChild<QLineEdit*>(QLatin1String(nome))->setText(QLatin1String(valor));
+    };
+    texto("mskNumNCM100", "17019900");
+    texto("txtCodProd100N", "NOVO");
+    texto("msk100N(2)", "1");
+    texto("msk100N(0)", "1");
+    texto("msk100N(1)", "1");
+    auto* unidade = tela->findChild<QComboBox*>(QStringLiteral("cboUnidade100"));
+    unidade->showPopup();
+    unidade->hidePopup();
+    unidade->setCurrentIndex(0);
+    QElapsedTimer relogio;
+    relogio.start();
+    tela->findChild<QAbstractButton*>(QStringLiteral("cmdIncluir_tab100Nacional_Mensal"))->click();
+    const qint64 incluir = relogio.nsecsElapsed();
+    const int itens = ValorUnico(QStringLiteral("SELECT COUNT(*) FROM ITEM_VRT_MEN WHERE IND_MOD_INTERNACAO = '4'")).toInt();
+    std::printf("Incluir em \"100%% Nacional\" com %d itens na grade: %.1f ms\n", itens - 1, incluir / 1e6);
+    modVRTPLN::AlteracaoPendente = false;
+    janela.fechaTela();
+}
+
 }  // namespace
 
 int main(int argc, char** argv)
@@ -107,5 +141,6 @@ int main(int argc, char** argv)
         janela.fechaTela();
         QApplication::processEvents();
     }
+    incluiNacional(janela);
     return 0;
 }

@@ -6,6 +6,8 @@
 #include "gui/widgets/ConsultGrid.h"
 #include "gui/widgets/DigitField.h"
 #include "gui/widgets/MaskedField.h"
+#include "gui/widgets/NcmField.h"
+#include "gui/widgets/ProductCodeField.h"
 #include "gui/blocks/QuatroBotoes.h"
 #include "gui/widgets/TextField.h"
 
@@ -14,6 +16,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 ListaBloco::ListaBloco(const QString& nome, QWidget* parent) : QComboBox(parent)
@@ -50,14 +53,24 @@ QWidget* ExecutorBloco::criaCampo(const CampoBloco& c, QWidget* pai)
         break;
     }
     case CampoBloco::Decimal: {
-        auto* d = new DecimalField(c.familia, c.nome, QString(), pai);
+        auto* d = new DecimalField(c.familia, c.nome, c.msgZero, pai);
         if (!c.formato.isEmpty())
             d->setDisplayFormat(c.formato);
         w = d;
         break;
     }
-    case CampoBloco::Digitos:
-        w = new DigitField(c.nome, c.largura, pai);
+    case CampoBloco::Digitos: {
+        auto* d = new DigitField(c.nome, c.largura, pai);
+        if (!c.msgZero.isEmpty())
+            d->setZeroMessage(c.msgZero);
+        w = d;
+        break;
+    }
+    case CampoBloco::Ncm:
+        w = new NcmField(c.nome, pai);
+        break;
+    case CampoBloco::Produto:
+        w = new ProductCodeField(c.nome, pai);
         break;
     case CampoBloco::Mascara:
         w = new MaskedField(c.formato, c.nome, pai);
@@ -68,26 +81,62 @@ QWidget* ExecutorBloco::criaCampo(const CampoBloco& c, QWidget* pai)
     }
     if (c.larguraTela > 0)
         w->setMinimumWidth(c.larguraTela);
+    if (c.somenteLeitura)
+        w->setEnabled(false);
     return w;
 }
 
 void ExecutorBloco::constroi(QWidget* area)
 {
     auto* coluna = new QVBoxLayout(area);
+    QWidget* dosCampos = area;
+    if (!m_d.tituloCampos.isEmpty()) {
+        dosCampos = new QGroupBox(m_d.tituloCampos, area);
+        coluna->addWidget(dosCampos);
+    }
     auto* linha = new QGridLayout;
-    for (int i = 0; i < m_d.campos.size(); ++i) {
-        const CampoBloco& c = m_d.campos.at(i);
-        QWidget* w = criaCampo(c, area);
+    QHash<int, int> proxima;  // the next column of each row of fields
+    for (const CampoBloco& c : std::as_const(m_d.campos)) {
+        if (m_campos.contains(c.nome))
+            continue;
+        QWidget* w = criaCampo(c, dosCampos);
         m_campos.insert(c.nome, w);
-        auto* rotulo = new QLabel(c.rotulo, area);
+        auto* rotulo = new QLabel(c.rotulo, dosCampos);
         rotulo->setBuddy(w);
-        linha->addWidget(rotulo, 0, i);
-        linha->addWidget(w, 1, i);
+        const int i = proxima.value(c.linha);
+        proxima.insert(c.linha, i + 1);
+        linha->addWidget(rotulo, 2 * c.linha, i);
+        if (c.botao.isEmpty()) {
+            linha->addWidget(w, 2 * c.linha + 1, i);
+        } else {
+            auto* par = new QHBoxLayout;
+            par->setSpacing(2);
+            par->addWidget(w, 1);
+            auto* botao = new QPushButton(QStringLiteral("..."), dosCampos);
+            botao->setObjectName(c.botao);
+            botao->setFixedWidth(botao->fontMetrics().horizontalAdvance(QStringLiteral("...")) + 16);
+            m_botoesEscolha.insert(c.botao, botao);
+            connect(botao, &QPushButton::clicked, this, [this, botao, n = c.nome] {
+                for (const CampoBloco& campo : std::as_const(m_d.campos))
+                    if (campo.nome == n && m_d.escolhe)
+                        m_d.escolhe(campo, *this);
+                botao->setFocus(Qt::OtherFocusReason);
+            });
+            par->addWidget(botao);
+            linha->addLayout(par, 2 * c.linha + 1, i);
+        }
         linha->setColumnStretch(i, c.tipo == CampoBloco::Lista ? 2 : 1);
     }
-    coluna->addLayout(linha);
-    m_botoes = new QuatroBotoes(m_d.padraoBotoes, area);
-    coluna->addWidget(m_botoes);
+    if (dosCampos == area)
+        coluna->addLayout(linha);
+    else
+        dosCampos->setLayout(linha);
+    ligaAlvos();
+    const bool botoesProprios = !m_botoes;
+    if (botoesProprios) {
+        m_botoes = new QuatroBotoes(m_d.padraoBotoes, area);
+        coluna->addWidget(m_botoes);
+    }
     m_quadro = new QGroupBox(m_d.tituloGrade, area);
     auto* dentro = new QVBoxLayout(m_quadro);
     m_grade = new ConsultGrid(m_quadro);
@@ -95,7 +144,8 @@ void ExecutorBloco::constroi(QWidget* area)
     // Column 0 stands empty, as in every consult grid of the editors.
     QList<ConsultGrid::Column> colunas{{QString(), 20}};
     for (const ColunaGrade& g : m_d.colunasGrade) {
-        const bool numero = !g.formato.isEmpty();
+        const bool numero = !g.formato.isEmpty() && !g.formato.contains(QLatin1Char('@'))
+                            && !g.formato.contains(QLatin1Char('/'));
         colunas.append({g.titulo, g.largura,
                         numero ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter, g.maisLarga});
     }
@@ -108,6 +158,8 @@ void ExecutorBloco::constroi(QWidget* area)
     coluna->addWidget(m_quadro, 1);
 
     connect(m_grade, &ConsultGrid::rowChosen, this, &ExecutorBloco::escolheLinha);
+    if (!botoesProprios)
+        return;
     connect(m_botoes->cmdIncluir, &QPushButton::clicked, this, &ExecutorBloco::incluir);
     connect(m_botoes->cmdAlterar, &QPushButton::clicked, this, &ExecutorBloco::alterar);
     connect(m_botoes->cmdExcluir, &QPushButton::clicked, this, &ExecutorBloco::excluir);
@@ -134,12 +186,16 @@ void ExecutorBloco::carrega()
 {
     QList<QStringList> linhas;
     const QVariant pai = m_pai();
-    if (!pai.toString().isEmpty()) {
-        linhas = Bloco::Linhas(m_d.dados, pai, colunasConsulta());
+    if (!pai.toString().isEmpty() && pai.toString() != QLatin1String("0")) {
+        linhas = m_d.linhas ? m_d.linhas(pai) : Bloco::Linhas(m_d.dados, pai, colunasConsulta());
         for (QStringList& l : linhas) {
-            for (int i = 0; i < l.size(); ++i)
-                if (!m_d.colunasGrade.at(i).formato.isEmpty())
-                    l[i] = Funcoes::FormataNumero(l.at(i), m_d.colunasGrade.at(i).formato);
+            for (int i = 0; i < l.size() && i < m_d.colunasGrade.size(); ++i) {
+                const ColunaGrade& g = m_d.colunasGrade.at(i);
+                if (g.exibe)
+                    l[i] = g.exibe(l.at(i));
+                else if (!g.formato.isEmpty())
+                    l[i] = Funcoes::Formata(l.at(i), g.formato);
+            }
             l.prepend(QString());
         }
     }
@@ -148,6 +204,7 @@ void ExecutorBloco::carrega()
     // may look chosen either.
     m_grade->clearHighlight();
     m_chave.clear();
+    m_linha = -1;
     m_botoes->habilitaSelecao(false);
 }
 
@@ -200,8 +257,55 @@ void ExecutorBloco::escolhida(const QString& nomeLista)
 
 void ExecutorBloco::habilitaCampos(bool ligado)
 {
-    for (QWidget* w : std::as_const(m_campos))
-        w->setEnabled(ligado);
+    for (const CampoBloco& c : std::as_const(m_d.campos))
+        m_campos.value(c.nome)->setEnabled(ligado && !c.somenteLeitura);
+    for (QPushButton* b : std::as_const(m_botoesEscolha))
+        b->setEnabled(ligado);
+}
+
+void ExecutorBloco::ligaAlvos()
+{
+    auto edicao = [this](const QStringList& alvos, int i) {
+        return i < alvos.size() ? qobject_cast<QLineEdit*>(m_campos.value(alvos.at(i))) : nullptr;
+    };
+    for (const CampoBloco& c : std::as_const(m_d.campos)) {
+        QWidget* w = m_campos.value(c.nome);
+        if (c.tipo == CampoBloco::Ncm)
+            static_cast<NcmField*>(w)->setTargets(edicao(c.alvos, 0), edicao(c.alvos, 1));
+        else if (c.tipo == CampoBloco::Produto)
+            static_cast<ProductCodeField*>(w)->setDescriptionField(edicao(c.alvos, 0));
+    }
+    for (const CampoBloco& c : std::as_const(m_d.campos))
+        if (c.ajusta)
+            c.ajusta(m_campos.value(c.nome), *this);
+}
+
+QWidget* ExecutorBloco::controle(const QString& nome) const
+{
+    if (QWidget* w = m_campos.value(nome))
+        return w;
+    if (QWidget* w = m_botoesEscolha.value(nome))
+        return w;
+    for (QPushButton* b : {m_botoes->cmdIncluir, m_botoes->cmdAlterar, m_botoes->cmdExcluir, m_botoes->cmdLimpar})
+        if (b->objectName() == nome)
+            return b;
+    return nullptr;
+}
+
+QString ExecutorBloco::valor(const QString& nomeCampo) const
+{
+    for (const CampoBloco& c : m_d.campos)
+        if (c.nome == nomeCampo)
+            return valorCampo(c).toString();
+    return QString();
+}
+
+QString ExecutorBloco::valorEscolhido(const QString& coluna) const
+{
+    const int i = colunaDaGrade(coluna);
+    if (m_linha < 0 || i < 0 || m_linha >= m_grade->dataRowCount())
+        return QString();
+    return m_grade->cellText(m_linha, i);
 }
 
 void ExecutorBloco::preencheCampo(const CampoBloco& c, const QString& valor, const QString& texto)
@@ -223,6 +327,7 @@ void ExecutorBloco::preencheCampo(const CampoBloco& c, const QString& valor, con
         static_cast<DecimalField*>(w)->setValue(valor);
         break;
     case CampoBloco::Mascara:
+    case CampoBloco::Ncm:
         static_cast<MaskedField*>(w)->setDigits(valor);
         break;
     default:
@@ -236,9 +341,12 @@ void ExecutorBloco::escolheLinha(int linha)
     if (linha < 0 || linha >= m_grade->dataRowCount())
         return;
     m_chave.clear();
+    m_linha = linha;
     for (const QString& k : m_d.dados.chave)
         m_chave << m_grade->cellText(linha, colunaDaGrade(k));
     for (const CampoBloco& c : m_d.campos) {
+        if (colunaDaGrade(c.coluna) < 0)
+            continue;
         const QString valor = m_grade->cellText(linha, colunaDaGrade(c.coluna));
         const QString texto = c.colunaTexto.isEmpty() ? valor : m_grade->cellText(linha, colunaDaGrade(c.colunaTexto));
         preencheCampo(c, valor, texto);
@@ -257,6 +365,7 @@ QVariant ExecutorBloco::valorCampo(const CampoBloco& c) const
     case CampoBloco::Decimal:
         return static_cast<DecimalField*>(w)->value();
     case CampoBloco::Mascara:
+    case CampoBloco::Ncm:
         return static_cast<MaskedField*>(w)->digits();
     default:
         return static_cast<QLineEdit*>(w)->text();
@@ -291,6 +400,18 @@ void ExecutorBloco::recusa(const QString& texto, QWidget* foco)
         foco->setFocus(Qt::OtherFocusReason);
 }
 
+bool ExecutorBloco::passaRegras(Operacao op, QWidget* botao)
+{
+    for (const RegraBloco& r : std::as_const(m_d.regras)) {
+        const QString texto = r.teste(*this, op);
+        if (!texto.isEmpty()) {
+            recusa(texto, r.foco.isEmpty() ? botao : controle(r.foco));
+            return false;
+        }
+    }
+    return true;
+}
+
 bool ExecutorBloco::validaCampos()
 {
     for (const CampoBloco& c : m_d.campos) {
@@ -308,6 +429,20 @@ bool ExecutorBloco::validaCampos()
 
 void ExecutorBloco::incluir()
 {
+    if (!m_d.regras.isEmpty()) {
+        if (!passaRegras(Operacao::Incluir, m_botoes->cmdIncluir))
+            return;
+        modVRTPLN::AlteracaoPendente = true;
+        if (m_d.grava)
+            m_d.grava(*this, m_pai(), Operacao::Incluir);
+        else
+            Bloco::Insere(m_d.dados, m_pai(), valoresDosCampos());
+        carrega();
+        limpa();
+        if (m_d.depois)
+            m_d.depois(*this, Operacao::Incluir);
+        return;
+    }
     if (!validaCampos())
         return;
     if (Bloco::Existe(m_d.dados, m_pai(), chaveDosCampos())) {
@@ -324,6 +459,20 @@ void ExecutorBloco::alterar()
 {
     if (m_chave.isEmpty()) {
         recusa(m_d.msgSemSelecao, m_botoes->cmdAlterar);
+        return;
+    }
+    if (!m_d.regras.isEmpty()) {
+        if (!passaRegras(Operacao::Alterar, m_botoes->cmdAlterar))
+            return;
+        modVRTPLN::AlteracaoPendente = true;
+        if (m_d.grava)
+            m_d.grava(*this, m_pai(), Operacao::Alterar);
+        else
+            Bloco::Altera(m_d.dados, m_pai(), m_chave, valoresDosCampos());
+        carrega();
+        limpa();
+        if (m_d.depois)
+            m_d.depois(*this, Operacao::Alterar);
         return;
     }
     if (!validaCampos())
@@ -354,7 +503,10 @@ void ExecutorBloco::excluir()
     if (MsgBox(QStringLiteral("Deseja realmente excluir?"), Msg::YesNo | Msg::Information) != Msg::Yes)
         return;
     modVRTPLN::AlteracaoPendente = true;
-    Bloco::Exclui(m_d.dados, m_pai(), m_chave);
+    if (m_d.apaga)
+        m_d.apaga(*this, m_pai());
+    else
+        Bloco::Exclui(m_d.dados, m_pai(), m_chave);
     limpa();
     carrega();
 }

@@ -6,6 +6,12 @@
 // block: fills the grid, loads a chosen row into the fields, validates, inserts, updates, deletes, empties.
 // What one block does beyond that is a named hook of its description.
 //
+// Item blocks (gui/items) use the richer parts: NCM and product code fields with a picker button beside them
+// (Ncm, Produto, `botao`), read-only fields, fields on several rows (`linha`), an ordered list of checks
+// (`regras`: emptiness, lookups, duplicates and cross-row tests, each with its message and focus target), and
+// hooks that read the grid (`linhas`), write (`grava`) and delete (`apaga`) through the core's item routines
+// when a block's rows span several tables (an item and its destinations, an item and its modality's row).
+//
 // Every write sets AlteracaoPendente; nothing here commits: all of it works in the editor's open transaction.
 #include "core/store/BlocoEntrada.h"
 #include "gui/widgets/DecimalField.h"
@@ -26,8 +32,13 @@ struct OpcaoLista {
     QVariant dado;
 };
 
+class QPushButton;
+class QWidget;
+
 struct CampoBloco {
-    enum Tipo { Lista, Decimal, Digitos, Mascara, Texto };
+    // Ncm: an NcmField whose `alvos` are its description and statistical unit fields; Produto: a
+    // ProductCodeField whose `alvos` name its description field.
+    enum Tipo { Lista, Decimal, Digitos, Mascara, Texto, Ncm, Produto };
     QString nome;          // objectName, and member name in the tab
     QString rotulo;        // the label above it
     Tipo tipo = Texto;
@@ -39,13 +50,34 @@ struct CampoBloco {
     QString msgVazio;      // refused when empty (a list: nothing chosen; a decimal: empty or zero)
     QString dependeDe;     // a list rebuilt (and left unchosen) when this other list is chosen
     int larguraTela = 0;   // minimum width in pixels, 0 for the kind's own
+    int linha = 0;         // the row of the block's fields it stands on
+    bool somenteLeitura = false;  // shown, never typed into (a description filled by a lookup)
+    QString msgZero{};       // a decimal or digit field: the message for a value of zero when it is left
+    QString botao{};         // objectName of a picker button beside the field ("" none); see DescricaoBloco::escolhe
+    QString chamador{};      // the caller key the picker button leaves (ChamadorProduto, ChamadorNCM)
+    QStringList alvos{};     // Ncm: description and statistical unit fields; Produto: description field
+    // The field's own setup beyond its kind, run once every field exists (a coefficient's extra check).
+    std::function<void(QWidget* campo, ExecutorBloco& bloco)> ajusta = nullptr;
+};
+
+// Incluir or Alterar, for the checks and the writing hooks.
+enum class Operacao { Incluir, Alterar };
+
+// One check of a block, in the order of the description: `teste` gives the message of a refusal, or "" to go
+// on. `foco` is the objectName of the control that gets the focus (a field, a picker button, a button);
+// "" is the button that was clicked.
+struct RegraBloco {
+    std::function<QString(const ExecutorBloco& bloco, Operacao op)> teste;
+    QString foco;
 };
 
 struct ColunaGrade {
     QString titulo;
     QString coluna;        // column or expression of the block's table
     int largura = 0;       // pixels; 0 hides the column
-    QString formato;       // a number format for the text shown ("#,##0.00"), or none
+    QString formato;       // a number format ("#,##0.00") or a character mask ("@@@@.@@.@@") for the text shown
+    // The text shown, when it depends on the value (a number shown by one of two masks by its length).
+    std::function<QString(const QString& valor)> exibe = nullptr;
     QString maisLarga = QString();  // the widest value the column shows, so that none is cut (a list's longest entry)
 };
 
@@ -59,8 +91,22 @@ struct DescricaoBloco {
     QString msgSemSelecao; // Alterar or Excluir with no row chosen
     QString msgDuplicado;  // the key already stands under the parent
 
+    QString tituloCampos;  // with a text, the fields stand in a frame of that caption
+
     // Hooks. The entries of a list field, asked each time the list is rebuilt.
     std::function<QList<OpcaoLista>(const QString& campo, const ExecutorBloco& bloco)> opcoes;
+    // With checks listed, they replace the empty-field messages of the fields and the duplicate test.
+    QList<RegraBloco> regras;
+    // The grid's rows, each in the order of colunasGrade, when they do not come from the one table.
+    std::function<QList<QStringList>(const QVariant& pai)> linhas;
+    // Writes the fields for Incluir or Alterar (AlteracaoPendente is already set), instead of the one row.
+    std::function<void(const ExecutorBloco& bloco, const QVariant& pai, Operacao op)> grava;
+    // Deletes the chosen row's rows after the confirmation, instead of the one row.
+    std::function<void(const ExecutorBloco& bloco, const QVariant& pai)> apaga;
+    // A picker button was clicked: shows the picker for the field (the focus then goes back to the button).
+    std::function<void(const CampoBloco& campo, ExecutorBloco& bloco)> escolhe;
+    // After a successful Incluir or Alterar has reloaded and emptied the block.
+    std::function<void(ExecutorBloco& bloco, Operacao op)> depois;
 };
 
 // A list field that rebuilds itself when it is dropped down or gets the focus, where its description says so.
@@ -86,9 +132,25 @@ public:
     // Builds the block's widgets into `area`: the fields in a row with their labels, the four buttons, the grid
     // in its frame. Called once.
     void constroi(QWidget* area);
+    // Before constroi: a field the screen made and placed itself (an item number shared by two blocks of one
+    // tab) serves as the field of that name, which is then neither made nor laid out here.
+    void adotaCampo(const QString& nome, QWidget* campo) { m_campos.insert(nome, campo); }
+    // Before constroi: four buttons shared by several blocks of one tab. The screen places them and sends their
+    // clicks to the block that is in use; this block only enables and disables them.
+    void adotaBotoes(QuatroBotoes* botoes) { m_botoes = botoes; }
 
     const DescricaoBloco& descricao() const { return m_d; }
     QWidget* campo(const QString& nome) const { return m_campos.value(nome); }
+    // A field, a picker button or one of the four buttons, by its objectName.
+    QWidget* controle(const QString& nome) const;
+    // The text of a field as the store takes it, by the field's objectName.
+    QString valor(const QString& nomeCampo) const;
+    // The chosen row's value of a grid column (by column name), "" when no row is chosen.
+    QString valorEscolhido(const QString& coluna) const;
+    // The parent key of the rows, as the editor gives it now.
+    QVariant pai() const { return m_pai(); }
+    // The fields' values by column, as Incluir writes them.
+    QVariantMap valoresDosCampos() const;
     ConsultGrid* grade() const { return m_grade; }
     QGroupBox* quadroGrade() const { return m_quadro; }
     QuatroBotoes* botoes() const { return m_botoes; }
@@ -124,8 +186,9 @@ private:
     void preencheCampo(const CampoBloco& c, const QString& valor, const QString& texto);
     bool validaCampos();
     QVariantList chaveDosCampos() const;
-    QVariantMap valoresDosCampos() const;
     QStringList colunasConsulta() const;
+    bool passaRegras(Operacao op, QWidget* botao);
+    void ligaAlvos();
     int colunaDaGrade(const QString& coluna) const;
     void recusa(const QString& texto, QWidget* foco);
     void escolhida(const QString& nomeLista);
@@ -133,6 +196,8 @@ private:
     DescricaoBloco m_d;
     std::function<QVariant()> m_pai;
     QHash<QString, QWidget*> m_campos;
+    QHash<QString, QPushButton*> m_botoesEscolha;
+    int m_linha = -1;
     ConsultGrid* m_grade = nullptr;
     QGroupBox* m_quadro = nullptr;
     QuatroBotoes* m_botoes = nullptr;

@@ -4,6 +4,7 @@
 #include "gui/editor/AbaDadosGerais.h"
 #include "gui/editor/AbaNotaSaida.h"
 #include "gui/editor/AbaValores.h"
+#include "gui/items/AbasItens.h"
 #include "core/file/numbering/GeraIdentificacao.h"
 #include "core/session/MsgBox.h"
 #include "gui/screens/Telas.h"
@@ -89,9 +90,18 @@ void EditorDeclaracao::constroiAbas()
     tabDeclaracao->addTab(geral, QStringLiteral("Dados Gerais"));
     // The item tabs, filled by the item entry of each modality.
     const char* legendas[] = {"&Produto Estrangeiro", "PI com PPB", "PI sem PPB", "100% Nacional"};
+    ContextoItens contexto;
+    contexto.individual = m_config.individual;
+    contexto.idVrt = [this] { return m_copia.idVrt; };
+    contexto.idNfs = [this] { return m_copiaNota.idNfs; };
+    contexto.nota = [this] { return m_copiaNota; };
     for (int i = 0; i < 4; ++i) {
         auto* pagina = new QWidget;
         pagina->setObjectName(QStringLiteral("tabDeclaracao(%1)").arg(i + 1));
+        auto* daPagina = new QVBoxLayout(pagina);
+        m_abasItens[i + 1] = CriaAbaItens(i + 1, contexto, pagina);
+        if (m_abasItens[i + 1])
+            daPagina->addWidget(m_abasItens[i + 1]);
         tabDeclaracao->addTab(pagina, QString::fromUtf8(legendas[i]));
     }
 
@@ -149,6 +159,9 @@ void EditorDeclaracao::abreDeclaracao(const QString& id)
     // a click on a box, and the boxes' handlers do nothing while a declaration is being read.
     valores->carrega(0);
     valores->carrega(1);
+    for (AbaItens* aba : m_abasItens)
+        if (aba)
+            aba->carrega();
     m_carregando = false;
     // What the screen now shows is the stored copy, so that closing unchanged asks nothing.
     guardaCopia();
@@ -222,6 +235,8 @@ void EditorDeclaracao::tabDeclaracao_Click(int nova)
     }
     AtualizaDadosGerais();
     m_abaAtual = nova;
+    if (AbaItens* aba = abaItens(nova))
+        aba->aoEntrar();
 }
 
 void EditorDeclaracao::mostraAbaValores(int indice, bool visivel)
@@ -317,6 +332,9 @@ void EditorDeclaracao::RepopulaGrids()
     // their fields and buttons; the individual one re-reads and empties its values blocks as well.
     for (int i = 0; i < 2; ++i)
         valores->bloco(i)->esqueceEscolha();
+    for (AbaItens* aba : m_abasItens)
+        if (aba)
+            aba->repopula();
     if (!m_config.individual)
         return;
     for (int i = 0; i < 2; ++i) {

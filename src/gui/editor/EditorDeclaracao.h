@@ -6,6 +6,7 @@
 #include "gui/screens/TelaFilha.h"
 
 class AbaDadosGerais;
+class AbaItens;
 class AbaNotaSaida;
 class AbaValores;
 class QTabWidget;
@@ -43,6 +44,8 @@ public:
     AbaDadosGerais* dadosGerais = nullptr;
     AbaNotaSaida* notaSaida = nullptr;  // the individual editor only
     AbaValores* valores = nullptr;
+    // The item tab at `indice` of tabDeclaracao (1 to 4); nullptr for a tab not built yet.
+    AbaItens* abaItens(int indice) const { return indice >= 1 && indice <= 4 ? m_abasItens[indice] : nullptr; }
 
 protected:
     void closeEvent(QCloseEvent* evento) override;
@@ -67,4 +70,5 @@ private:
     int m_abaAtual = 0;
     bool m_trocandoAba = false;
     bool m_fechada = false;
+    AbaItens* m_abasItens[5] = {};
 };
