@@ -139,22 +139,16 @@ bool ValidaCampoBancario(CampoBancario campo, const QString& texto, bool testaNu
     const QString t = texto.trimmed();
     if (t.isEmpty())
         return true;
-    if (campo == CampoBancario::ContaCorrente) {
-        QString semX = t;
-        semX.remove(QLatin1Char('X'), Qt::CaseInsensitive);
-        const bool numerico = !semX.isEmpty() && EhNumerico(semX);
-        if ((testaNumerico && !numerico) || EhZero(t)) {
-            critica(QStringLiteral("Conta-Corrente inválida."));
-            return false;
-        }
-        return true;
-    }
-    if (testaNumerico && !EhNumerico(t)) {
-        critica(QStringLiteral("Campo inválido."));
+    // The zero test comes first. A text that is no number (an account ending in its check letter "X") cannot be
+    // zero and simply goes on to the next test.
+    if (EhZero(t)) {
+        const char* textos[] = {"Banco inválido.", "Agência inválida.", "Conta-Corrente inválida."};
+        critica(QString::fromUtf8(textos[int(campo)]));
         return false;
     }
-    if (EhZero(t)) {
-        critica(campo == CampoBancario::Banco ? QStringLiteral("Banco inválido.") : QStringLiteral("Agência inválida."));
+    // The account has no further test: any text that is not zero passes, the letter "X" alone included.
+    if (campo != CampoBancario::ContaCorrente && testaNumerico && !EhNumerico(t)) {
+        critica(QStringLiteral("Campo inválido."));
         return false;
     }
     return true;

@@ -30,8 +30,10 @@ SituacaoInscricao ConfereInscricaoEstadual(const QString& texto);
 bool ValidaInscricaoEstadual(const QString& texto, bool obrigatoria);
 
 // Bank data of the general data (`txtDadosGerais` 1, 2 and 3), when the field is left and not blank.
-// `testaNumerico` false is the individual editor, which has only the zero tests. The account may end in the
-// letter "X" (its check digit); apart from that letter it must be numeric.
+// In this order: a value of zero is refused with the field's own text; then, for the bank and the agency only
+// and when `testaNumerico` is true, a text that is not numeric with "Campo inválido.". `testaNumerico` false is
+// the individual editor, which has only the zero tests. The account takes "X" (its check digit): only a numeric
+// text of value zero is refused there.
 enum class CampoBancario { Banco, Agencia, ContaCorrente };
 bool ValidaCampoBancario(CampoBancario campo, const QString& texto, bool testaNumerico = true);
 

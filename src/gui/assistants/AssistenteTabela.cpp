@@ -190,9 +190,10 @@ QList<ConsultGrid::Column> AssistenteTabela::colunas() const
     QList<ConsultGrid::Column> lista{{QStringLiteral("chave"), 0, Qt::AlignLeft | Qt::AlignVCenter}};
     const bool picker = !m_menu;
     const int larguras[] = {picker ? 130 : 110, picker ? 470 : 380, 220};
+    // The description (column 1) wraps: a long NCM or product description is read whole in its row.
     for (int i = 0; i < m_cfg.titulos.size(); ++i)
         lista.append({m_cfg.titulos.at(i), larguras[qMin(i, 2)], Qt::AlignLeft | Qt::AlignVCenter,
-                      i == 0 ? amostra : QString()});
+                      i == 0 ? amostra : QString(), i == 1});
     return lista;
 }
 

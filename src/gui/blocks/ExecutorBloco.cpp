@@ -147,7 +147,7 @@ void ExecutorBloco::constroi(QWidget* area)
         const bool numero = !g.formato.isEmpty() && !g.formato.contains(QLatin1Char('@'))
                             && !g.formato.contains(QLatin1Char('/'));
         colunas.append({g.titulo, g.largura,
-                        numero ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter});
+                        numero ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter, g.maisLarga});
     }
     m_grade->setColumns(colunas);
     // The grid takes the height the screen leaves it, a few rows at least, so that a tab of several blocks still
@@ -200,9 +200,18 @@ void ExecutorBloco::carrega()
         }
     }
     m_grade->setRows(linhas);
+    // The first row is current, for the cursor keys, but nothing is chosen: with Alterar and Excluir off no row
+    // may look chosen either.
+    m_grade->clearHighlight();
     m_chave.clear();
     m_linha = -1;
     m_botoes->habilitaSelecao(false);
+}
+
+void ExecutorBloco::esqueceEscolha()
+{
+    m_chave.clear();
+    m_grade->clearHighlight();
 }
 
 bool ExecutorBloco::temLinhas() const

@@ -78,6 +78,7 @@ struct ColunaGrade {
     QString formato;       // a number format ("#,##0.00") or a character mask ("@@@@.@@.@@") for the text shown
     // The text shown, when it depends on the value (a number shown by one of two masks by its length).
     std::function<QString(const QString& valor)> exibe = nullptr;
+    QString maisLarga = QString();  // the widest value the column shows, so that none is cut (a list's longest entry)
 };
 
 struct DescricaoBloco {
@@ -158,6 +159,8 @@ public:
 
     // Carrega...: fills the grid and disables Alterar, Excluir and Limpar.
     void carrega();
+    // The chosen row is forgotten: no key and no row highlighted. Fields and buttons stay as they are.
+    void esqueceEscolha();
     // LimpaCampos...: lists unchosen, other fields emptied.
     void limpa();
     // Rebuilds a list field's entries, keeping its choice when the entry is still offered.

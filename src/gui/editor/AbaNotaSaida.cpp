@@ -65,6 +65,8 @@ void AbaNotaSaida::constroiNota()
     quadro->setObjectName(QStringLiteral("fraNotaFiscalSaida"));
     auto* f = new QGridLayout(quadro);
     txtNumero = new DigitField(QStringLiteral("mskDadosGeraisIndividual(3)"), 6, quadro);
+    // Six digits with a group separator once left ("004.567"); the store keeps the digits as typed.
+    txtNumero->setDisplayFormat(QStringLiteral("000,000"));
     txtSerie = new TextField(QStringLiteral("txtDadosGeraisIndividual(1)"), 5, quadro);
     txtSerie->acceptLettersAndDigitsOnly().setUpperCase();
     for (int i = 0; i < 2; ++i)
@@ -147,7 +149,7 @@ void AbaNotaSaida::ligaRegras()
             ValidaCNPJ(d);
     });
     aoSair(txtNumero, [this] {
-        if (!txtNumero->text().isEmpty() && EhZero(txtNumero->text()))
+        if (!txtNumero->value().isEmpty() && EhZero(txtNumero->value()))
             return falha(QStringLiteral("Número da Nota Fiscal inválido."), nullptr);
         return true;
     });
@@ -248,9 +250,9 @@ bool AbaNotaSaida::regraPessoa()
 
 bool AbaNotaSaida::validaCabecalho()
 {
-    if (txtNumero->text().isEmpty())
+    if (txtNumero->value().isEmpty())
         return falha(QStringLiteral("O campo número da nota da fiscal deve ser preenchido."), txtNumero);
-    if (EhZero(txtNumero->text()))
+    if (EhZero(txtNumero->value()))
         return falha(QStringLiteral("Número da Nota Fiscal inválido."), txtNumero);
     if (txtSerie->text().trimmed().isEmpty())
         return falha(QStringLiteral("O campo série deve ser preenchido."), txtSerie);
@@ -307,7 +309,7 @@ bool AbaNotaSaida::validaRegras()
 NotaSaida AbaNotaSaida::daTela() const
 {
     NotaSaida n;
-    n.numero = txtNumero->text();
+    n.numero = txtNumero->value();
     n.serie = txtSerie->text();
     n.emissao = mskDadosGeraisIndividual[0]->digits();
     n.saida = mskDadosGeraisIndividual[1]->digits();
@@ -334,7 +336,7 @@ void AbaNotaSaida::mostra(const NotaSaida& n, const QString& alc)
                 cboUF->setCurrentIndex(i);
         txtNomeUf->setText(DadosGeraisVrt::NomeUf(n.uf));
     }
-    txtNumero->setText(n.numero);
+    txtNumero->setValue(n.numero);
     txtSerie->setText(n.serie);
     mskDadosGeraisIndividual[0]->setDigits(n.emissao);
     mskDadosGeraisIndividual[1]->setDigits(n.saida);

@@ -90,9 +90,9 @@ DescricaoBloco Descricao(int indice, std::function<bool()> temProcesso)
                                 : QStringLiteral("Valores para Retificação");
     d.colunasGrade = {
         {QStringLiteral("ID_VRT_MICRO"), QStringLiteral("ID_VRT_MICRO"), 0, {}},
-        {QStringLiteral("Modalidade"), nmMod, 133, {}},
-        {QStringLiteral("Descrição"), nmTipo, 200, {}},
-        {QStringLiteral("Valor"), valor, 133, QStringLiteral("#,##0.00")},
+        {QStringLiteral("Modalidade"), nmMod, 133, {}, nullptr, QStringLiteral("VRT - PI sem PPB")},
+        {QStringLiteral("Descrição"), nmTipo, 200, {}, nullptr, QStringLiteral("Imposto sobre Prod. Industrializados")},
+        {QStringLiteral("Valor"), valor, 133, QStringLiteral("#,##0.00"), nullptr, QStringLiteral("9.999.999.999.999,99")},
         {mod, mod, 0, {}},
         {tipo, tipo, 0, {}},
     };

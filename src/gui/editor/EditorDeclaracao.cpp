@@ -15,6 +15,7 @@
 #include "gui/blocks/ExecutorBloco.h"
 #include "gui/widgets/MaskedField.h"
 #include "gui/blocks/QuatroBotoes.h"
+#include "gui/widgets/ScreenFocus.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -38,6 +39,24 @@ EditorDeclaracao::EditorDeclaracao(const ConfigEditor& config, QWidget* parent) 
     modBancoDados::IniciaTransacao();
     if (notaSaida)
         notaSaida->carregaUf();
+    if (!config.individual)
+        ligaFocoMensal();
+}
+
+// The monthly editor writes its general data when the user leaves it for another window, and brings the CNPJ
+// before the user when it comes to the front again. The individual editor has neither.
+void EditorDeclaracao::ligaFocoMensal()
+{
+    auto* foco = new ScreenFocus(this);
+    connect(foco, &ScreenFocus::left, this, [this] {
+        if (!m_carregando && !m_fechada)
+            AtualizaDadosGerais();
+    });
+    connect(foco, &ScreenFocus::returned, this, [this] {
+        // The CNPJ stands on tab 0; on another tab the focus stays where the user left it.
+        if (dadosGerais->mskDadosGerais[1]->isVisible())
+            dadosGerais->mskDadosGerais[1]->setFocus(Qt::OtherFocusReason);
+    });
 }
 
 EditorDeclaracao::~EditorDeclaracao() = default;
@@ -136,32 +155,16 @@ void EditorDeclaracao::abreDeclaracao(const QString& id)
             notaSaida->mostra(n, d.alc);
     }
     m_copiaNota.idNfs = n.idNfs;
+    // The values grids are read, but their sub-tabs stay closed however the boxes stand: they open only through
+    // a click on a box, and the boxes' handlers do nothing while a declaration is being read.
     valores->carrega(0);
     valores->carrega(1);
     for (AbaItens* aba : m_abasItens)
         if (aba)
             aba->carrega();
-    mostraValoresAbertos();
     m_carregando = false;
     // What the screen now shows is the stored copy, so that closing unchanged asks nothing.
     guardaCopia();
-}
-
-// The sub-tabs of the boxes ticked in the stored declaration, open as if the user had ticked them.
-void EditorDeclaracao::mostraValoresAbertos()
-{
-    for (int i = 0; i < 2; ++i) {
-        const bool marcada = dadosGerais->ChkMand_Retif[i]->isChecked();
-        if (marcada) {
-            mostraAbaValores(i, true);
-            valores->abreEntrada(i, !(i == 1 && dadosGerais->chkSimRest->isChecked()));
-        }
-    }
-    if (dadosGerais->chkSimRest->isChecked()) {
-        valores->bloco(1)->quadroGrade()->setEnabled(false);
-        dadosGerais->mskDadosGerais[3]->setEnabled(true);
-    }
-    valores->tabValores->setCurrentIndex(valores->tabValores->isTabVisible(0) ? 0 : 1);
 }
 
 void EditorDeclaracao::guardaCopia()
@@ -325,7 +328,10 @@ void EditorDeclaracao::chkSimRest_Click()
 
 void EditorDeclaracao::RepopulaGrids()
 {
-    // The monthly editor re-reads only its item grids; the individual one its values grids as well.
+    // Every chosen row is forgotten. The monthly editor re-reads only its item grids, so its values blocks keep
+    // their fields and buttons; the individual one re-reads and empties its values blocks as well.
+    for (int i = 0; i < 2; ++i)
+        valores->bloco(i)->esqueceEscolha();
     for (AbaItens* aba : m_abasItens)
         if (aba)
             aba->repopula();

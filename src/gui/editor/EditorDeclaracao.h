@@ -52,11 +52,11 @@ protected:
 
 private:
     void constroiAbas();
+    void ligaFocoMensal();
     void tabDeclaracao_Click(int nova);
     void ChkMand_Retif_Click(int indice);
     void chkSimRest_Click();
     void abreDeclaracao(const QString& id);
-    void mostraValoresAbertos();
     void guardaCopia();
     void mostraAbaValores(int indice, bool visivel);
     void voltaAbaZero();

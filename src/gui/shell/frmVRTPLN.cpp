@@ -69,6 +69,9 @@ frmVRTPLN::frmVRTPLN(QWidget* parent) : QMainWindow(parent)
     m_mdi = new QMdiArea(this);
     m_mdi->setObjectName(QStringLiteral("mdiArea"));
     m_mdi->setBackground(palette().brush(QPalette::Dark));
+    // On a small screen or at a large scale a screen larger than the area is scrolled into view, not cut.
+    m_mdi->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_mdi->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setCentralWidget(m_mdi);
     criaMenus();
     criaBarraFerramentas();

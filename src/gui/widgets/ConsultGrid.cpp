@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QStyle>
+#include <QTimer>
 
 namespace {
 
@@ -61,6 +62,45 @@ ConsultGrid::ConsultGrid(QWidget* parent) : QTableWidget(parent)
             emit rowChosen(row);
     });
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &ConsultGrid::onSelectionChanged);
+    // A wrapping column that changes width (the window resized, the last column stretched) re-fits its rows.
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column) {
+        if (m_wrapColumns.contains(column))
+            fitRowHeightsLater();
+    });
+}
+
+// Each row as high as its longest wrapped value needs, and never lower than one line.
+void ConsultGrid::fitRowHeights()
+{
+    m_fitPending = false;
+    if (m_wrapColumns.isEmpty())
+        return;
+    const QFontMetrics metrics = fontMetrics();
+    const int oneLine = verticalHeader()->defaultSectionSize();
+    // The delegate's text margins on both sides.
+    const int margins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1) + 2;
+    for (int r = 0; r < rowCount(); ++r) {
+        int height = oneLine;
+        for (int c : std::as_const(m_wrapColumns)) {
+            const QTableWidgetItem* it = item(r, c);
+            const int width = columnWidth(c) - margins;
+            if (!it || width <= 0 || metrics.horizontalAdvance(it->text()) <= width)
+                continue;
+            const QRect needed =
+                metrics.boundingRect(QRect(0, 0, width, 1 << 20), Qt::TextWordWrap | Qt::AlignLeft, it->text());
+            height = qMax(height, needed.height() + oneLine - metrics.height());
+        }
+        if (rowHeight(r) != height)
+            setRowHeight(r, height);
+    }
+}
+
+void ConsultGrid::fitRowHeightsLater()
+{
+    if (m_fitPending)
+        return;
+    m_fitPending = true;
+    QTimer::singleShot(0, this, &ConsultGrid::fitRowHeights);
 }
 
 void ConsultGrid::setColumns(const QList<Column>& columns)
@@ -70,12 +110,16 @@ void ConsultGrid::setColumns(const QList<Column>& columns)
     for (const Column& c : columns)
         titles << c.title;
     setHorizontalHeaderLabels(titles);
+    m_wrapColumns.clear();
     for (int i = 0; i < columns.size(); ++i) {
+        if (columns.at(i).wrap && columns.at(i).width > 0)
+            m_wrapColumns << i;
         setColumnHidden(i, columns.at(i).width == 0);
         if (columns.at(i).width > 0)
             setColumnWidth(i, qMax(columns.at(i).width, widthFor(columns.at(i))));
         horizontalHeaderItem(i)->setData(Qt::UserRole, int(columns.at(i).alignment));
     }
+    setWordWrap(!m_wrapColumns.isEmpty());
 }
 
 void ConsultGrid::clearRows()
@@ -97,6 +141,7 @@ void ConsultGrid::addRow(const QStringList& cells)
                         Qt::Alignment(horizontalHeaderItem(c)->data(Qt::UserRole).toInt())));
     }
     m_filling = false;
+    fitRowHeightsLater();
 }
 
 void ConsultGrid::setRows(const QList<QStringList>& rows)
@@ -118,15 +163,14 @@ void ConsultGrid::setRows(const QList<QStringList>& rows)
         }
     }
     if (!rows.isEmpty()) {
-        // The first row becomes current; a grid of several picks starts with nothing picked.
+        // The first row becomes current and highlighted; on a grid of several picks it is the one picked.
         int column = 0;
         while (column < columns - 1 && isColumnHidden(column))
             ++column;
         const QModelIndex first = model()->index(0, column);
-        selectionModel()->setCurrentIndex(first, m_multi ? QItemSelectionModel::NoUpdate
-                                                         : QItemSelectionModel::ClearAndSelect
-                                                               | QItemSelectionModel::Rows);
+        selectionModel()->setCurrentIndex(first, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     }
+    fitRowHeights();
     setUpdatesEnabled(true);
     m_filling = false;
 }
@@ -159,6 +203,13 @@ void ConsultGrid::clearCurrentRow()
     m_filling = false;
 }
 
+void ConsultGrid::clearHighlight()
+{
+    m_filling = true;
+    clearSelection();
+    m_filling = false;
+}
+
 void ConsultGrid::setMultiSelection(bool on)
 {
     m_multi = on;
@@ -187,6 +238,9 @@ void ConsultGrid::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Enter:
         // Enter works as a click on the row, or as Ok; it must not reach the dialog's default button.
         if (currentRow() >= 0) {
+            // The row acted on is the row highlighted.
+            if (!m_multi)
+                selectOnly(currentRow());
             if (m_enterActivates)
                 emit rowActivated(currentRow());
             else

@@ -7,7 +7,8 @@
 //     Enter stands for Ok (setEnterActivatesRow), Enter activates the row instead of choosing it;
 //   - Tab leaves the grid for the next control instead of walking its cells;
 //   - a click on a column title is reported (titleClicked) and sorts nothing by itself;
-//   - cells show their values without trailing blanks; cellText() gives the values as they were given.
+//   - cells show their values without trailing blanks; cellText() gives the values as they were given;
+//   - a column may wrap its long values: the rows that hold one grow to show it whole.
 // Screens that let the user pick several rows (the declaration chooser) turn on multi-selection; the rows
 // picked are then reported in the order they were picked.
 #include <QList>
@@ -24,6 +25,8 @@ public:
         // The widest value the column holds at its declared width (15 "W" for a product code): the column is
         // made at least wide enough to show it whole.
         QString widest = QString();
+        // Long values (descriptions) wrap onto more lines of their row rather than being cut.
+        bool wrap = false;
     };
 
     explicit ConsultGrid(QWidget* parent = nullptr);
@@ -35,7 +38,8 @@ public:
     // Adds a row; cells beyond the columns are ignored, missing cells are empty.
     void addRow(const QStringList& cells);
     // Replaces all rows at once (much faster than addRow for thousands of rows); the current row becomes the
-    // first when there is one, without choosing it.
+    // first when there is one, highlighted, without choosing it. On a grid of several picks the first row is
+    // the one picked, so that what the screen's Ok acts on is what the grid shows.
     void setRows(const QList<QStringList>& rows);
 
     int dataRowCount() const { return rowCount(); }
@@ -46,6 +50,9 @@ public:
 
     // No row current nor highlighted, without choosing any (a list whose first row must not look chosen).
     void clearCurrentRow();
+    // The current row stays where it is (the cursor keys go on from it) but no row is highlighted: a grid whose
+    // rows count as chosen only once the user chooses one, as an editor's block right after a load.
+    void clearHighlight();
     // Enter activates the current row (rowActivated), as Ok does, instead of choosing it.
     void setEnterActivatesRow(bool on) { m_enterActivates = on; }
 
@@ -69,6 +76,8 @@ protected:
 
 private:
     int widthFor(const Column& column) const;
+    void fitRowHeights();
+    void fitRowHeightsLater();
     void onCurrentChanged(int row);
     void onSelectionChanged();
     void selectOnly(int row);
@@ -77,4 +86,6 @@ private:
     bool m_enterActivates = false;
     bool m_filling = false;
     QList<int> m_order;
+    QList<int> m_wrapColumns;
+    bool m_fitPending = false;
 };

@@ -1,6 +1,7 @@
 #include "gui/widgets/DigitField.h"
 
 #include "core/rules/Formatadores.h"
+#include "core/rules/FormatoNumero.h"
 #include "gui/widgets/FieldFocus.h"
 
 #include <QKeyEvent>
@@ -33,6 +34,38 @@ DigitField& DigitField::setPadWidth(int width)
 {
     m_padWidth = width;
     return *this;
+}
+
+DigitField& DigitField::setDisplayFormat(const QString& format)
+{
+    m_displayFormat = format;
+    return *this;
+}
+
+QString DigitField::value() const
+{
+    // The display stands only until the text changes; anything else in the field is its own value.
+    if (!m_display.isEmpty() && text() == m_display)
+        return m_plain;
+    return text();
+}
+
+void DigitField::setValue(const QString& value)
+{
+    m_display.clear();
+    setText(value);
+    if (!hasFocus())
+        showDisplay();
+}
+
+void DigitField::showDisplay()
+{
+    const QString plain = value();
+    if (m_displayFormat.isEmpty() || plain.isEmpty() || !Funcoes::EhNumerico(plain))
+        return;
+    m_plain = plain;
+    m_display = Funcoes::FormataNumero(plain, m_displayFormat);
+    setText(m_display);
 }
 
 bool DigitField::accepts(QChar c) const
@@ -80,6 +113,9 @@ void DigitField::onTextEdited(const QString&)
 void DigitField::focusInEvent(QFocusEvent* event)
 {
     QLineEdit::focusInEvent(event);
+    if (!m_display.isEmpty() && text() == m_display)
+        setText(m_plain);
+    m_display.clear();
     if (isEntryToSelect(event))
         selectAllLater(this);
 }
@@ -93,5 +129,6 @@ bool DigitField::checkLeave()
         return false;
     if (m_padWidth > 0)
         setText(Funcoes::ZeroEsquerda(t, m_padWidth));
+    showDisplay();
     return true;
 }

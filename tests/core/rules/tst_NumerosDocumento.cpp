@@ -179,9 +179,13 @@ void tst_NumerosDocumento::campoBancario_data()
                                 << "Conta-Corrente inválida.";
     QTest::newRow("conta zero sem o teste numerico") << CampoBancario::ContaCorrente << "0" << false << false
                                                      << "Conta-Corrente inválida.";
-    QTest::newRow("conta nao numerica") << CampoBancario::ContaCorrente << "12A45" << true << false
-                                        << "Conta-Corrente inválida.";
-    QTest::newRow("conta so X") << CampoBancario::ContaCorrente << "X" << true << false << "Conta-Corrente inválida.";
+    // Only a numeric zero is refused in the account: any other text passes, the check letter alone included.
+    QTest::newRow("conta nao numerica passa") << CampoBancario::ContaCorrente << "12A45" << true << true << "";
+    QTest::newRow("conta so X passa") << CampoBancario::ContaCorrente << "X" << true << true << "";
+    QTest::newRow("conta zeros e X passa") << CampoBancario::ContaCorrente << "000X" << true << true << "";
+    QTest::newRow("conta so X passa no individual") << CampoBancario::ContaCorrente << "X" << false << true << "";
+    // The zero test comes before the numeric one: a zero bank is "Banco inválido.", never "Campo inválido.".
+    QTest::newRow("banco zero com espacos") << CampoBancario::Banco << " 00 " << true << false << "Banco inválido.";
 }
 
 void tst_NumerosDocumento::campoBancario()

@@ -128,6 +128,26 @@ private slots:
         QVERIFY(tela.grdAssistenteVRT->isEnabled());
     }
 
+    // The first row, on which Ok acts, opens picked: highlighted and counted among the rows picked.
+    void primeiraLinhaAbreEscolhida()
+    {
+        BancoTeste banco;
+        quatro();
+        frmAssistenteVRT tela;
+        tela.show();
+        ConsultGrid* g = tela.grdAssistenteVRT;
+        QCOMPARE(g->currentRow(), 0);
+        QCOMPARE(g->pickedRows(), QList<int>{0});
+        QCOMPARE(g->selectionModel()->selectedRows().size(), 1);
+        QCOMPARE(g->selectionModel()->selectedRows().first().row(), 0);
+        QCOMPARE(g->pickedTexts(0), QStringList{QStringLiteral("00003/09")});
+        // A plain click picks another row alone; Ctrl adds to it.
+        clicaLinha(g, 2);
+        QCOMPARE(g->pickedRows(), QList<int>{2});
+        clicaLinha(g, 0, Qt::ControlModifier);
+        QCOMPARE(g->pickedRows(), (QList<int>{2, 0}));
+    }
+
     void bancoVazioDesligaListaEOk()
     {
         BancoTeste banco;

@@ -13,6 +13,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTimer>
@@ -614,6 +615,37 @@ private slots:
                  longa.left(79) + QLatin1Char('1'));
         MensagensRoteiro msgs;
         msgs.responde(Msg::No);
+        QTest::mouseClick(c.cancela, Qt::LeftButton);
+    }
+
+    // A description longer than its column wraps in its row: the row grows until the whole text fits, and
+    // a short one keeps a single line.
+    void descricaoLongaQuebraNaLinhaEAparaceInteira()
+    {
+        BancoTeste banco;
+        const QString longa = QStringLiteral("PARAFUSO SEXTAVADO DE AÇO INOXIDÁVEL M8 X 40 MM COM PORCA E ARRUELA LISA 2025 ZN");
+        BancoTeste::executa(QStringLiteral("DELETE FROM PRODUTO"));
+        BancoTeste::executa(QStringLiteral("INSERT INTO PRODUTO VALUES ('P-80', ?)"), {longa});
+        BancoTeste::executa(QStringLiteral("INSERT INTO PRODUTO VALUES ('P-1', 'ARRUELA')"));
+        Cadastro c = abre(true);
+        c.tela->resize(520, 480);
+        QTest::qWait(20);
+        const int linhaLonga = linhaDe(c.grade, QStringLiteral("P-80"));
+        const int linhaCurta = linhaDe(c.grade, QStringLiteral("P-1"));
+        const int coluna = AssistenteTabela::ColunaNome;
+        const QFontMetrics m = c.grade->fontMetrics();
+        QVERIFY(m.horizontalAdvance(longa) > c.grade->columnWidth(coluna));
+        QVERIFY(c.grade->wordWrap());
+        const QRect celula = c.grade->visualRect(c.grade->model()->index(linhaLonga, coluna));
+        const QRect texto = m.boundingRect(QRect(0, 0, celula.width() - 8, 1 << 20), Qt::TextWordWrap, longa);
+        QVERIFY2(texto.height() <= celula.height(), qPrintable(QStringLiteral("%1 > %2").arg(texto.height()).arg(celula.height())));
+        QVERIFY(c.grade->rowHeight(linhaLonga) > c.grade->rowHeight(linhaCurta));
+        QCOMPARE(c.grade->rowHeight(linhaCurta), c.grade->verticalHeader()->defaultSectionSize());
+        // A wider window needs fewer lines.
+        const int alta = c.grade->rowHeight(linhaLonga);
+        c.tela->resize(1000, 480);
+        QTRY_VERIFY(c.grade->rowHeight(linhaLonga) < alta);
+        MensagensRoteiro msgs;
         QTest::mouseClick(c.cancela, Qt::LeftButton);
     }
 

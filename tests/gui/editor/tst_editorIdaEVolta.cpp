@@ -156,7 +156,7 @@ private slots:
         QCOMPARE(texto(a, "mskDadosGerais(1)"), t("11.222.333/0001-81"));
         // The reader fills the state registration with zeros to its width in the file.
         QCOMPARE(texto(a, "mskDadosGerais(2)"), t("00000012345678"));
-        QCOMPARE(texto(a, "mskDadosGeraisIndividual(3)").toInt(), 4567);
+        QCOMPARE(texto(a, "mskDadosGeraisIndividual(3)"), t("004.567"));
         QCOMPARE(texto(a, "txtDadosGeraisIndividual(1)").trimmed(), t("U1"));
         QCOMPARE(texto(a, "mskDadosGeraisIndividual(0)"), t("10/05/2009"));
         QCOMPARE(texto(a, "mskDadosGeraisIndividual(1)"), t("12/05/2009"));

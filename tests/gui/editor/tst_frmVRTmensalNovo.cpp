@@ -354,7 +354,8 @@ private slots:
         auto* grade = a.campo<ConsultGrid>(QStringLiteral("grdValoresTotaisAssociadosMandadoJudicial"));
         QCOMPARE(grade->dataRowCount(), 1);
         QCOMPARE(grade->cellText(0, 4), QStringLiteral("1.234,50"));
-        QVERIFY(a.abasValores()->isTabVisible(0));
+        // Reading a declaration runs no box handler: the values' sub-tab stays closed.
+        QVERIFY(!a.abasValores()->isTabVisible(0));
         QVERIFY(!AlteracaoPendente);
         a.vaiParaAba(1);
         a.vaiParaAba(0);
