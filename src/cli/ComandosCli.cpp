@@ -54,7 +54,7 @@ QString ArquivoDoBanco(const OpcoesCli& opcoes)
 
 bool Escreve(const QString& comando)
 {
-    return comando == s("importar") || comando == s("tabela") || comando == s("banco-anterior");
+    return comando == s("importar") || comando == s("tabela") || comando == s("banco-anterior") || comando == s("copiar");
 }
 
 bool AbreBanco(const QString& arquivo)

@@ -158,6 +158,18 @@ private slots:
         // Taken over and released at the end of the command.
         QVERIFY(!QFile::exists(trava()));
     }
+
+    void travaVaziaDeProcessoMortoAoCriarETomada()
+    {
+        // Killed between creating its lock file and writing its number into it: the empty file names nobody.
+        QFile vazia(trava());
+        QVERIFY(vazia.open(QIODevice::WriteOnly));
+        vazia.close();
+        const Execucao e = roda({t("importar"), declaracao()});
+        QCOMPARE(e.status, 0);
+        QCOMPARE(BancoTeste::conta(t("VRT")), 1);
+        QVERIFY(!QFile::exists(trava()));
+    }
 };
 
 QTEST_GUILESS_MAIN(TstVrtCliTrava)

@@ -2,8 +2,9 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QThread>
 
-TravaBanco::TravaBanco(const QString& arquivoBanco) : m_trava(ArquivoTrava(arquivoBanco))
+TravaBanco::TravaBanco(const QString& arquivoBanco) : m_arquivoBanco(arquivoBanco), m_trava(ArquivoTrava(arquivoBanco))
 {
     // Never stale by age: a long editor session keeps its lock. Stale only when its process is gone.
     m_trava.setStaleLockTime(0);
@@ -18,9 +19,26 @@ bool TravaBanco::trava()
     const QString nome = QCoreApplication::applicationName();
     if (QCoreApplication::instance())
         QCoreApplication::setApplicationName(QFileInfo(QCoreApplication::applicationFilePath()).fileName());
-    const bool travado = m_trava.tryLock(0);
+    bool travado = m_trava.tryLock(0);
+    if (!travado && vaziaDeMorto())
+        travado = m_trava.removeStaleLockFile() && m_trava.tryLock(0);
     QCoreApplication::setApplicationName(nome);
     return travado;
+}
+
+bool TravaBanco::vaziaDeMorto()
+{
+    // A process killed between creating the lock file and writing its number into it leaves a file that names
+    // nobody, which the lock would hold for ever. A live holder writes its number at once: a file still
+    // unreadable a moment later was left by a dead one.
+    qint64 pid = 0;
+    QString maquina, aplicacao;
+    for (int tentativa = 0; tentativa < 5; ++tentativa) {
+        if (m_trava.getLockInfo(&pid, &maquina, &aplicacao))
+            return false;
+        QThread::msleep(100);
+    }
+    return QFileInfo::exists(ArquivoTrava(m_arquivoBanco));
 }
 
 QString TravaBanco::ArquivoTrava(const QString& arquivoBanco)

@@ -14,5 +14,8 @@ public:
     static QString ArquivoTrava(const QString& arquivoBanco);
 
 private:
+    bool vaziaDeMorto();
+
+    QString m_arquivoBanco;
     QLockFile m_trava;
 };
