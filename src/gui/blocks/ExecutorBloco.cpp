@@ -149,6 +149,7 @@ void ExecutorBloco::constroi(QWidget* area)
     auto* dentro = new QVBoxLayout(m_quadro);
     m_grade = new ConsultGrid(m_quadro);
     m_grade->setObjectName(m_d.nomeGrade);
+    m_grade->setClickNeedsRowChange(true);
     // Column 0 stands empty, as in every consult grid of the editors.
     QList<ConsultGrid::Column> colunas{{QString(), 20}};
     for (const ColunaGrade& g : m_d.colunasGrade) {
