@@ -55,6 +55,7 @@ QuadroDocumento::QuadroDocumento(const MembroDocumento& membro, QWidget* parent)
     quadroGrade = new QGroupBox(this);
     auto* dentro = new QVBoxLayout(quadroGrade);
     grade = new ConsultGrid(quadroGrade);
+    grade->setClickNeedsRowChange(true);
     grade->setObjectName(m_m.nomeGrade);
     QList<ConsultGrid::Column> colunas{{QString(), 20}};
     for (const ColunaDocumento& c : m_m.grade)

@@ -58,6 +58,8 @@ ConsultGrid::ConsultGrid(QWidget* parent) : QTableWidget(parent)
                     onCurrentChanged(row);
             });
     connect(this, &QTableWidget::cellClicked, this, [this](int row, int) {
+        if (m_clickNeedsRowChange && !m_rowChangedSinceLoad)
+            return;
         if (!m_filling && row >= 0)
             emit rowChosen(row);
     });
@@ -124,6 +126,7 @@ void ConsultGrid::setColumns(const QList<Column>& columns)
 
 void ConsultGrid::clearRows()
 {
+    m_rowChangedSinceLoad = false;
     m_filling = true;
     setRowCount(0);
     m_order.clear();
@@ -146,6 +149,7 @@ void ConsultGrid::addRow(const QStringList& cells)
 
 void ConsultGrid::setRows(const QList<QStringList>& rows)
 {
+    m_rowChangedSinceLoad = false;
     m_filling = true;
     setUpdatesEnabled(false);
     clearSelection();
@@ -281,6 +285,7 @@ void ConsultGrid::onCurrentChanged(int row)
 {
     if (m_filling || row < 0)
         return;
+    m_rowChangedSinceLoad = true;
     if (!m_multi)
         selectOnly(row);
     emit rowChosen(row);

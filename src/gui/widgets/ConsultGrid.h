@@ -56,6 +56,10 @@ public:
     // Enter activates the current row (rowActivated), as Ok does, instead of choosing it.
     void setEnterActivatesRow(bool on) { m_enterActivates = on; }
 
+    // An editor's grid: after a load a click chooses nothing until the current row has moved (a click on another
+    // row, the cursor keys); from then on a click chooses the row clicked, until the next load. A click on the
+    // first row right after a load therefore does nothing.
+    void setClickNeedsRowChange(bool on) { m_clickNeedsRowChange = on; }
     // Several rows may be picked with Ctrl and Shift clicks.
     void setMultiSelection(bool on);
     // The rows picked, in the order they were picked (multi-selection), or the current row.
@@ -85,6 +89,8 @@ private:
     bool m_multi = false;
     bool m_enterActivates = false;
     bool m_filling = false;
+    bool m_clickNeedsRowChange = false;
+    bool m_rowChangedSinceLoad = false;
     QList<int> m_order;
     QList<int> m_wrapColumns;
     bool m_fitPending = false;

@@ -8,6 +8,7 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QHeaderView>
+#include <QPushButton>
 
 using namespace EditorTeste;
 using namespace modVRTPLN;
@@ -271,7 +272,8 @@ private slots:
         abreValores(a, 0);
         a.incluiValor(0, QStringLiteral("VRT - PE"), QStringLiteral("COFINS"), QStringLiteral("10"));
         auto* g = a.campo<ConsultGrid>(QStringLiteral("grdValoresTotaisAssociadosMandadoJudicial"));
-        clicaLinha(g, 0);
+        // The only row is current since the load and answers no click: Enter chooses it.
+        QTest::keyClick(g, Qt::Key_Return);
         a.msgs.responde(Msg::No);
         a.clica(QStringLiteral("cmdExcluirValores(0)"));
         QCOMPARE(BancoTeste::conta(QStringLiteral("VALORES_DIVER_MANDADO")), 1);
@@ -292,7 +294,9 @@ private slots:
         a.incluiValor(0, QStringLiteral("VRT - PE"), QStringLiteral("PIS/PASEP"), QStringLiteral("20"));
         a.incluiValor(0, QStringLiteral("VRT - PI sem PPB"), QStringLiteral("COFINS"), QStringLiteral("30"));
         auto* g = a.campo<ConsultGrid>(QStringLiteral("grdValoresTotaisAssociadosMandadoJudicial"));
-        // In the grid's order: PIS/PASEP (type 9), COFINS (type 12), then the other modality.
+        // In the grid's order: PIS/PASEP (type 9), COFINS (type 12), then the other modality. The first row answers
+        // a click only once the current row has moved.
+        clicaLinha(g, 1);
         clicaLinha(g, 0);
         QCOMPARE(a.campo<QLineEdit>(QStringLiteral("mskValor(0)"))->text(), QStringLiteral("20,00"));
         const QStringList esperados = {"20,00", "10,00", "30,00"};
@@ -378,6 +382,59 @@ private slots:
         QCOMPARE(a.msgs.textos(), QStringList{t("O indicador de restituição encontra-se marcado, portanto o número do "
                                                 "processo o número do processo deve ser informado!")});
         QCOMPARE(a.abas()->currentIndex(), 0);
+    }
+    // Right after a load a click chooses nothing until the grid's current row has moved: the first row, current
+    // since the load, does not answer a click; another row does, and from then on every click until the next load.
+    void cliqueSoEscolheDepoisQueALinhaAtualMudou()
+    {
+        Ambiente a;
+        abreValores(a, 0);
+        a.incluiValor(0, QStringLiteral("VRT - PE"), QStringLiteral("COFINS"), QStringLiteral("10"));
+        a.incluiValor(0, QStringLiteral("VRT - PI com PPB"), QStringLiteral("PIS/PASEP"), QStringLiteral("20"));
+        auto* g = a.campo<ConsultGrid>(QStringLiteral("grdValoresTotaisAssociadosMandadoJudicial"));
+        auto* valor = a.campo<QLineEdit>(QStringLiteral("mskValor(0)"));
+        clicaLinha(g, 0);
+        QCOMPARE(valor->text(), QString());
+        QVERIFY(!a.campo(QStringLiteral("cmdAlterarValores(0)"))->isEnabled());
+        clicaLinha(g, 1);
+        QCOMPARE(valor->text(), QStringLiteral("20,00"));
+        clicaLinha(g, 0);
+        QCOMPARE(valor->text(), QStringLiteral("10,00"));
+        // Limpar reloads the grid: the current row answers no click again.
+        a.clica(QStringLiteral("cmdLimparValores(0)"));
+        clicaLinha(g, g->currentRow());
+        QCOMPARE(valor->text(), QString());
+        QCOMPARE(a.msgs.inesperadas, 0);
+    }
+
+    // A declaration opened with both boxes ticked shows its rows in the grids, but the sub-tabs stay closed and the
+    // entry off: the boxes' handlers do nothing while it is read, and only a click on a box opens a sub-tab.
+    void abertaComCaixasMarcadasDeixaAsSubAbasFechadas()
+    {
+        Ambiente a;
+        abreValores(a, 0);
+        a.incluiValor(0, QStringLiteral("VRT - PE"), QStringLiteral("COFINS"), QStringLiteral("10"));
+        a.clica(QStringLiteral("ChkMand_Retif(1)"));
+        a.digita(QStringLiteral("mskDadosGerais(0)"), numeroVrt());
+        a.incluiValor(1, QStringLiteral("VRT - PE"), QStringLiteral("COFINS"), QStringLiteral("30"));
+        a.msgs.responde(Msg::Yes);
+        a.fechar();
+        QCOMPARE(a.msgs.inesperadas, 0);
+        a.janela.acao(QStringLiteral("mnuDeclaracaoAbrir"))->trigger();
+        QTest::mouseClick(a.janela.findChild<QPushButton*>(QStringLiteral("cmdOk")), Qt::LeftButton);
+        QVERIFY(a.editor());
+        QVERIFY(a.campo<QCheckBox>(QStringLiteral("ChkMand_Retif(0)"))->isChecked());
+        QVERIFY(a.campo<QCheckBox>(QStringLiteral("ChkMand_Retif(1)"))->isChecked());
+        QVERIFY(!a.abasValores()->isEnabled());
+        QVERIFY(!a.abasValores()->isTabVisible(0));
+        QVERIFY(!a.abasValores()->isTabVisible(1));
+        QCOMPARE(a.campo<ConsultGrid>(QStringLiteral("grdValoresTotaisAssociadosMandadoJudicial"))->dataRowCount(), 1);
+        QCOMPARE(a.campo<ConsultGrid>(QStringLiteral("grdValoresRetificacao"))->dataRowCount(), 1);
+        QVERIFY(!a.campo(QStringLiteral("cmdIncluirValores(0)"))->isEnabled());
+        QVERIFY(!a.campo(QStringLiteral("cboModalidade(1)"))->isEnabled());
+        a.fechar();
+        QCOMPARE(BancoTeste::conta(QStringLiteral("VALORES_DIVER_MANDADO")), 1);
+        QCOMPARE(a.msgs.inesperadas, 0);
     }
 };
 
