@@ -127,10 +127,18 @@ void ExecutorBloco::constroi(QWidget* area)
         }
         linha->setColumnStretch(i, c.tipo == CampoBloco::Lista ? 2 : 1);
     }
-    if (dosCampos == area)
+    if (dosCampos == area) {
         coluna->addLayout(linha);
-    else
-        dosCampos->setLayout(linha);
+        for (QWidget* q : std::as_const(m_quadrosAdotados))
+            coluna->addWidget(q);
+    } else {
+        auto* dentroDosCampos = new QVBoxLayout(dosCampos);
+        dentroDosCampos->addLayout(linha);
+        for (QWidget* q : std::as_const(m_quadrosAdotados)) {
+            q->setParent(dosCampos);
+            dentroDosCampos->addWidget(q);
+        }
+    }
     ligaAlvos();
     const bool botoesProprios = !m_botoes;
     if (botoesProprios) {
@@ -228,6 +236,8 @@ void ExecutorBloco::limpa()
         else if (auto* edit = qobject_cast<QLineEdit*>(w))
             edit->clear();
     }
+    if (m_d.aoLimpar)
+        m_d.aoLimpar(*this);
 }
 
 void ExecutorBloco::recarregaLista(const QString& nome)
@@ -351,6 +361,8 @@ void ExecutorBloco::escolheLinha(int linha)
         const QString texto = c.colunaTexto.isEmpty() ? valor : m_grade->cellText(linha, colunaDaGrade(c.colunaTexto));
         preencheCampo(c, valor, texto);
     }
+    if (m_d.aoEscolher)
+        m_d.aoEscolher(*this);
     m_botoes->habilitaSelecao(true);
 }
 
@@ -396,6 +408,7 @@ QVariantList ExecutorBloco::chaveDosCampos() const
 void ExecutorBloco::recusa(const QString& texto, QWidget* foco)
 {
     MsgBox(texto, Msg::OKOnly | Msg::Critical);
+    emit recusou();
     if (foco && foco->isEnabled())
         foco->setFocus(Qt::OtherFocusReason);
 }

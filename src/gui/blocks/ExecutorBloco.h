@@ -107,6 +107,10 @@ struct DescricaoBloco {
     std::function<void(const CampoBloco& campo, ExecutorBloco& bloco)> escolhe;
     // After a successful Incluir or Alterar has reloaded and emptied the block.
     std::function<void(ExecutorBloco& bloco, Operacao op)> depois;
+    // After a chosen row has filled the fields: what the screen shows beside them (valorEscolhido reads the row).
+    std::function<void(ExecutorBloco& bloco)> aoEscolher;
+    // After the fields were emptied: what the screen keeps beside them is emptied too.
+    std::function<void(ExecutorBloco& bloco)> aoLimpar;
 };
 
 // A list field that rebuilds itself when it is dropped down or gets the focus, where its description says so.
@@ -138,6 +142,8 @@ public:
     // Before constroi: four buttons shared by several blocks of one tab. The screen places them and sends their
     // clicks to the block that is in use; this block only enables and disables them.
     void adotaBotoes(QuatroBotoes* botoes) { m_botoes = botoes; }
+    // Before constroi: a frame of the screen's own (rates with a check) laid out below the fields, in their frame.
+    void adotaQuadro(QWidget* quadro) { m_quadrosAdotados.append(quadro); }
 
     const DescricaoBloco& descricao() const { return m_d; }
     QWidget* campo(const QString& nome) const { return m_campos.value(nome); }
@@ -180,6 +186,10 @@ public:
     // The value a field gives to the store, and for a list its text.
     QVariant valorCampo(const CampoBloco& c) const;
 
+signals:
+    // A check or the selection refused the operation (its message was shown): the block's page comes forward.
+    void recusou();
+
 private:
     QWidget* criaCampo(const CampoBloco& c, QWidget* pai);
     void escolheLinha(int linha);
@@ -201,5 +211,6 @@ private:
     ConsultGrid* m_grade = nullptr;
     QGroupBox* m_quadro = nullptr;
     QuatroBotoes* m_botoes = nullptr;
+    QList<QWidget*> m_quadrosAdotados;
     QVariantList m_chave;
 };

@@ -1,8 +1,7 @@
 #include "gui/items/AbaProdutoEstrangeiro.h"
 
 #include "gui/items/PaginaDocumentoOrigem.h"
-#include "gui/items/PaginaProdutoIndividual.h"
-#include "gui/items/PaginaProdutoMensal.h"
+#include "gui/items/AliquotaDiferente.h"
 #include "gui/widgets/FieldFocus.h"
 
 #include <QTabWidget>
@@ -14,20 +13,17 @@ AbaProdutoEstrangeiro::AbaProdutoEstrangeiro(const ContextoItens& contexto, QWid
     tabProdutoEstrangeiro = new QTabWidget(this);
     tabProdutoEstrangeiro->setObjectName(QStringLiteral("tabProdutoEstrangeiro"));
     setProperty("paginaAjuda", QStringLiteral("produto_estrangeiro.html"));
-    QWidget* produto = nullptr;
-    if (contexto.individual) {
-        produtoIndividual = new PaginaProdutoIndividual(contexto.idVrt, contexto.idNfs);
-        connect(produtoIndividual, &PaginaProdutoIndividual::mostraPagina, this, &AbaProdutoEstrangeiro::mostraProduto);
-        produto = produtoIndividual;
-    } else {
-        produtoMensal = new PaginaProdutoMensal(contexto.idVrt);
-        connect(produtoMensal, &PaginaProdutoMensal::mostraPagina, this, &AbaProdutoEstrangeiro::mostraProduto);
-        produto = produtoMensal;
-    }
-    produto->setObjectName(QStringLiteral("tabProdutoEstrangeiro(0)"));
+    auto* pagina = new QWidget;
+    pagina->setObjectName(QStringLiteral("tabProdutoEstrangeiro(0)"));
+    taxas = BlocosProdutoEstrangeiro::Taxas(contexto.individual, pagina);
+    produto = new ExecutorBloco(BlocosProdutoEstrangeiro::Descricao(contexto, taxas), [this] { return pai(); }, this);
+    taxas.ii->entregaA(*produto);
+    taxas.ipi->entregaA(*produto);
+    produto->constroi(pagina);
+    connect(produto, &ExecutorBloco::recusou, this, &AbaProdutoEstrangeiro::mostraProduto);
     documentoOrigem = new PaginaDocumentoOrigem(contexto.individual, contexto.idVrt, contexto.idNfs);
     documentoOrigem->setObjectName(QStringLiteral("tabProdutoEstrangeiro(1)"));
-    tabProdutoEstrangeiro->addTab(produto, QStringLiteral("Produto"));
+    tabProdutoEstrangeiro->addTab(pagina, QStringLiteral("Produto"));
     tabProdutoEstrangeiro->addTab(documentoOrigem, QString::fromUtf8("Documento de Origem"));
     corpo()->addWidget(tabProdutoEstrangeiro, 1);
     connect(tabProdutoEstrangeiro, &QTabWidget::currentChanged, this, &AbaProdutoEstrangeiro::trocaPagina);
@@ -40,18 +36,12 @@ AbaProdutoEstrangeiro::AbaProdutoEstrangeiro(const ContextoItens& contexto, QWid
 
 void AbaProdutoEstrangeiro::carrega()
 {
-    if (produtoMensal)
-        produtoMensal->CarregaGridPE();
-    else
-        produtoIndividual->CarregaGridPE();
+    produto->carrega();
 }
 
 void AbaProdutoEstrangeiro::repopula()
 {
-    if (produtoMensal)
-        produtoMensal->LimpaCamposPE();
-    else
-        produtoIndividual->LimpaCamposPENFS();
+    produto->limpa();
     carrega();
 }
 

@@ -1,11 +1,12 @@
 #pragma once
 // The tab "Produto Estrangeiro" of both editors: under the invoice head of the individual editor, the page
-// "Produto" (monthly or individual) and the page "Documento de Origem".
+// "Produto" (a block of the item foundation, monthly or individual) and the page "Documento de Origem".
 #include "gui/items/AbaItens.h"
 
+#include "gui/items/BlocosProdutoEstrangeiro.h"
+
+class ExecutorBloco;
 class PaginaDocumentoOrigem;
-class PaginaProdutoIndividual;
-class PaginaProdutoMensal;
 class QTabWidget;
 
 class AbaProdutoEstrangeiro : public AbaItens {
@@ -19,8 +20,8 @@ public:
     void aoEntrar() override;
 
     QTabWidget* tabProdutoEstrangeiro = nullptr;
-    PaginaProdutoMensal* produtoMensal = nullptr;         // the monthly editor
-    PaginaProdutoIndividual* produtoIndividual = nullptr; // the individual editor
+    ExecutorBloco* produto = nullptr;  // the page "Produto": one block, monthly or individual
+    TaxasProduto taxas;                // its two rate frames
     PaginaDocumentoOrigem* documentoOrigem = nullptr;
 
 private:

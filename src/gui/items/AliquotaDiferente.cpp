@@ -1,6 +1,5 @@
 #include "gui/items/AliquotaDiferente.h"
 
-#include "core/session/MsgBox.h"
 #include "gui/widgets/DecimalField.h"
 #include "gui/widgets/TextField.h"
 
@@ -77,22 +76,24 @@ void AliquotaDiferente::limpa()
     marca(false);
 }
 
-bool AliquotaDiferente::valida()
+QList<RegraBloco> AliquotaDiferente::regras() const
 {
-    if (!marcada())
-        return true;
-    QWidget* foco = nullptr;
-    QString texto;
-    if (campoTaxa->text().trimmed().isEmpty()) {
-        texto = QString::fromUtf8("É obrigatório o preenchimento da alíquota de %1.").arg(imposto);
-        foco = campoTaxa;
-    } else if (campoJustificativa->text().trimmed().isEmpty()) {
-        texto = QString::fromUtf8("O campo fundamentação legal para a alíquota de %1 deve ser preenchido.").arg(imposto);
-        foco = campoJustificativa;
-    }
-    if (!foco)
-        return true;
-    MsgBox(texto, Msg::OKOnly | Msg::Critical);
-    foco->setFocus(Qt::OtherFocusReason);
-    return false;
+    const QString taxa = QString::fromUtf8("É obrigatório o preenchimento da alíquota de %1.").arg(imposto);
+    const QString fundamento =
+        QString::fromUtf8("O campo fundamentação legal para a alíquota de %1 deve ser preenchido.").arg(imposto);
+    return {{[this, taxa](const ExecutorBloco&, Operacao) {
+                 return marcada() && campoTaxa->text().trimmed().isEmpty() ? taxa : QString();
+             },
+             campoTaxa->objectName()},
+            {[this, fundamento](const ExecutorBloco&, Operacao) {
+                 return marcada() && campoJustificativa->text().trimmed().isEmpty() ? fundamento : QString();
+             },
+             campoJustificativa->objectName()}};
+}
+
+void AliquotaDiferente::entregaA(ExecutorBloco& bloco)
+{
+    bloco.adotaQuadro(this);
+    for (QWidget* w : std::initializer_list<QWidget*>{check, campoTaxa, campoJustificativa})
+        bloco.adotaCampo(w->objectName(), w);
 }

@@ -1,6 +1,8 @@
 #pragma once
 // A rate that differs from the normal one of the TEC or the TIPI: the check, the rate and its legal grounds.
 // Checked: rate and grounds enabled and the focus on the rate. Unchecked: both emptied and disabled.
+#include "gui/blocks/ExecutorBloco.h"
+
 #include <QString>
 #include <QWidget>
 
@@ -23,8 +25,11 @@ public:
     QString justificativa() const;
     void mostra(const QString& taxa, const QString& justificativa);
     void limpa();
-    // Steps of the product validation: a checked rate needs its rate and its grounds. Shows the message.
-    bool valida();
+    // Steps of the product validation: a checked rate needs its rate, then its grounds.
+    QList<RegraBloco> regras() const;
+    // Hands the frame to a block, before it is built: laid out below the block's fields, with the check, the
+    // rate and the grounds known to the block by their names (focus targets of its checks).
+    void entregaA(ExecutorBloco& bloco);
 
     QCheckBox* check = nullptr;
     DecimalField* campoTaxa = nullptr;

@@ -13,23 +13,9 @@ namespace {
 const QString Quantidade = QStringLiteral("###,###,##0.00000");
 const QString ValorTotal = QStringLiteral("#,###,###,###,##0.00");
 const QString ValorUnitario = QStringLiteral("#,###,###,###,##0.0000000");
-const QString MsgNcmVazia = QStringLiteral("O campo número da NCM deve ser preenchido.");
-const QString MsgNcmInvalida = QStringLiteral("O campo número da NCM não possui um código válido.");
-const QString MsgProdutoVazio = QStringLiteral("O campo código do produto deve ser selecionado.");
-const QString MsgUnidade = QStringLiteral("O campo unidade de medida comercial deve ser selecionado.");
-
 QList<OpcaoLista> opcoes(const QString&, const ExecutorBloco&)
 {
     return OpcoesUnidade();
-}
-
-// The NCM and product checks both editors make, in their order.
-QList<RegraBloco> regrasNcmProduto(const QString& ncm, const QString& descrNcm, const QString& botaoNcm,
-                                   const QString& botaoProduto)
-{
-    return {vazio(ncm, MsgNcmVazia, botaoNcm), vazio(descrNcm, MsgNcmInvalida, botaoNcm),
-            vazio(QStringLiteral("txtCodProd100N"), MsgProdutoVazio, botaoProduto),
-            produtoValido(QStringLiteral("txtCodProd100N"), QStringLiteral("txtDescrProd100N"), botaoProduto)};
 }
 
 }  // namespace
@@ -78,10 +64,11 @@ DescricaoBloco Mensal()
     d.padraoBotoes = QStringLiteral("cmd%1_tab100Nacional_Mensal");
     d.msgSemSelecao = QStringLiteral("Inclua um produto ou selecione no grid");
     d.opcoes = opcoes;
-    d.regras = regrasNcmProduto(QStringLiteral("mskNumNCM100"), QStringLiteral("txtDescrNCM100"), botaoNcm, botaoProduto);
+    d.regras = regrasProduto(QStringLiteral("mskNumNCM100"), QStringLiteral("txtDescrNCM100"), botaoNcm,
+                             QStringLiteral("txtCodProd100N"), QStringLiteral("txtDescrProd100N"), botaoProduto);
     d.regras += {
         vazio(QStringLiteral("msk100N(2)"), QStringLiteral("O campo quantidade total comercial não pode ser nulo")),
-        vazio(QStringLiteral("cboUnidade100"), MsgUnidade),
+        unidadeEscolhida(QStringLiteral("cboUnidade100")),
         vazio(QStringLiteral("msk100N(0)"), QStringLiteral("O campo quantidade total estatística não pode ser nulo")),
         vazio(QStringLiteral("msk100N(1)"), QStringLiteral("O campo valor total internado não pode ser nulo")),
         // Within modality '4' a product stands once; other modalities of the declaration may have it too.
@@ -174,9 +161,10 @@ DescricaoBloco Individual()
     d.msgSemSelecao = QStringLiteral("Inclua um produto ou selecione no grid");
     d.opcoes = opcoes;
     d.regras = {vazio(item, QStringLiteral("O campo item deve ser preenchido."))};
-    d.regras += regrasNcmProduto(ncmCampo, descrNcm, botaoNcm, botaoProduto);
+    d.regras += regrasProduto(ncmCampo, descrNcm, botaoNcm, QStringLiteral("txtCodProd100N"),
+                              QStringLiteral("txtDescrProd100N"), botaoProduto);
     d.regras += {
-        vazio(QStringLiteral("cboUnidade100"), MsgUnidade),
+        unidadeEscolhida(QStringLiteral("cboUnidade100")),
         vazio(QStringLiteral("msk100NacionalIndividual(1)"), QStringLiteral("O campo quant. comercial deve ser preenchido.")),
         vazio(QStringLiteral("msk100NacionalIndividual(2)"),
               QStringLiteral("O campo valor unit. na unid. med. comercial deve ser preenchido.")),

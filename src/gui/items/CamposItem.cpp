@@ -149,6 +149,20 @@ RegraBloco produtoValido(const QString& campo, const QString& descricao, const Q
             foco};
 }
 
+QList<RegraBloco> regrasProduto(const QString& ncm, const QString& descricaoNcm, const QString& botaoNcm,
+                                const QString& codigo, const QString& descricao, const QString& botaoProduto)
+{
+    return {vazio(ncm, QStringLiteral("O campo número da NCM deve ser preenchido."), botaoNcm),
+            vazio(descricaoNcm, QStringLiteral("O campo número da NCM não possui um código válido."), botaoNcm),
+            vazio(codigo, QStringLiteral("O campo código do produto deve ser selecionado."), botaoProduto),
+            produtoValido(codigo, descricao, botaoProduto)};
+}
+
+RegraBloco unidadeEscolhida(const QString& campo)
+{
+    return vazio(campo, QStringLiteral("O campo unidade de medida comercial deve ser selecionado."));
+}
+
 RegraBloco numeroItemLivre(const QString& campo, const QString& colunaGrade)
 {
     return {[campo, colunaGrade](const ExecutorBloco& b, Operacao op) {

@@ -49,6 +49,12 @@ RegraBloco vazio(const QString& campo, const QString& msg, const QString& foco =
 // The product code names a product (BuscaProduto, exact); when it does the description is refreshed.
 RegraBloco produtoValido(const QString& campo, const QString& descricao, const QString& foco,
                          const QString& msg = QStringLiteral("O campo código do Produto não possui um código válido."));
+// The NCM and product checks every item tab makes first, in their order: NCM empty, NCM unknown (focus on the
+// NCM picker), product code empty, product code unknown (focus on the product picker).
+QList<RegraBloco> regrasProduto(const QString& ncm, const QString& descricaoNcm, const QString& botaoNcm,
+                                const QString& codigo, const QString& descricao, const QString& botaoProduto);
+// The commercial unit list left unchosen.
+RegraBloco unidadeEscolhida(const QString& campo);
 // The item number stands on no other item of the invoice, in any modality; at Alterar only when it differs
 // from the chosen row's `colunaGrade`.
 RegraBloco numeroItemLivre(const QString& campo, const QString& colunaGrade);

@@ -3,8 +3,9 @@
 #include "DocumentoTeste.h"
 
 #include "core/store/Cadastros.h"
-#include "gui/items/PaginaProdutoIndividual.h"
-#include "gui/items/PaginaProdutoMensal.h"
+#include "gui/widgets/ConsultGrid.h"
+
+#include <QCheckBox>
 
 namespace ProdutoTeste {
 
