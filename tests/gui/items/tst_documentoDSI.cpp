@@ -250,8 +250,9 @@ private slots:
         for (int i = 0; i < mensagens.size(); ++i) {
             a.msgs.limpa();
             a.msgs.responde(Msg::OK);
-            // A short number is refused as well when Incluir takes the focus from it.
-            const bool curto = i == 1;
+            // The individual editor refuses a short number as well when Incluir takes the focus from it; the monthly
+            // one runs only the check digit there, which these seven digits pass.
+            const bool curto = i == 1 && individual;
             if (curto)
                 a.msgs.responde(Msg::OK);
             c.incluir();

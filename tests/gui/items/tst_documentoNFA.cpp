@@ -385,7 +385,7 @@ private slots:
         c.preencheValida();
         c.incluir();
         c.preencheValida();
-        c.digita(Papel::CNPJ, t("44555666000177"));
+        c.digita(Papel::CNPJ, t("44555666000181"));
         a.sai(c.nome(Papel::Quantidade));
         if (!mensagem.isEmpty())
             a.msgs.responde(Msg::OK);
