@@ -1,4 +1,5 @@
 #include "gui/items/MembroDocumento.h"
+#include "gui/items/MembrosFamilia.h"
 
 namespace {
 
@@ -102,10 +103,10 @@ MembroDocumento diProdutoMensal()
     m.colunas.insert(Papel::Valor2, t("VL_SEGURO_UNID_INT"));
     m.regras = regrasMensais();
     m.msgZeroDecimal = ZeroIgual;
-    m.exigidos = {{Papel::Adicao, t("O campo adição não pode ser nulo.")},
-                  {Papel::ItemAdicao, t("O campo Item não pode ser nulo.")},
-                  {Papel::Quantidade, t("O campo quantidade comercial não pode ser nulo.")}};
-    m.msgTotalVazio = t("O campo valor total não pode ser nulo.");
+    m.passos = {{Teste::Vazio, Papel::Adicao, t("O campo adição não pode ser nulo.")},
+                {Teste::Vazio, Papel::ItemAdicao, t("O campo Item não pode ser nulo.")},
+                {Teste::Vazio, Papel::Quantidade, t("O campo quantidade comercial não pode ser nulo.")},
+                {Teste::VazioSeAtivo, Papel::ValorTotal, t("O campo valor total não pode ser nulo.")}};
     m.msgDuplicadoEletronica = t("O conjunto DI/Adição/Item já encontra-se incluído.");
     m.msgDuplicadoAntiga = t("O conjunto Ano/Órgão/Seqüencial/Adição/Item já encontra-se incluído.");
     m.msgDuplicadoAlteracao = t("DI já incluída.");
@@ -145,9 +146,9 @@ MembroDocumento diProdutoIndividual()
     m.colunas.insert(Papel::Valor2, t("VL_SEGURO_UNID_NFS"));
     m.regras = regrasIndividuais();
     m.msgZeroDecimal = MaiorQueZero;
-    m.exigidos = {{Papel::Adicao, t("O campo número da adição deve ser preenchido.")},
-                  {Papel::ItemAdicao, t("O campo número do item da adição deve ser preenchido.")},
-                  {Papel::Quantidade, t("O campo quantidade comercial não pode ser nulo.")}};
+    m.passos = {{Teste::Vazio, Papel::Adicao, t("O campo número da adição deve ser preenchido.")},
+                {Teste::Vazio, Papel::ItemAdicao, t("O campo número do item da adição deve ser preenchido.")},
+                {Teste::Vazio, Papel::Quantidade, t("O campo quantidade comercial não pode ser nulo.")}};
     m.msgDuplicadoEletronica = t("DI já incluída.");
     m.msgDuplicadoAntiga = t("DI já incluída.");
     m.msgSemPai = t("Não foi escolhido produto para documento de origem.");
@@ -169,7 +170,9 @@ MembroDocumento diProdutoIndividual()
 
 const QList<MembroDocumento>& MembrosDocumento()
 {
-    static const QList<MembroDocumento> membros{diProdutoMensal(), diProdutoIndividual()};
+    static const QList<MembroDocumento> membros{diProdutoMensal(),           diProdutoIndividual(),
+                                                MembrosFamilia::dsiProduto(false), MembrosFamilia::dsiProduto(true),
+                                                MembrosFamilia::nfaProduto(false), MembrosFamilia::nfaProduto(true)};
     return membros;
 }
 

@@ -26,7 +26,9 @@ enum class Papel {
     Sim, Nao,                      // "Eletrônica"
     Numero, Ano, Orgao, Sequencial,
     Adicao, ItemAdicao, NumeroBem,
+    NumeroNF, Serie, ItemNF, CFOP, Data, CNPJ,   // an acquisition invoice
     Quantidade,
+    ValorUnitario,                 // the unit value kept in the invoice line itself
     DecretoLei, Obsolescencia, Suspensao,
     ValorTotal,
     Moeda0, Moeda1, Moeda2,        // the currency of the product (input), freight and insurance blocks
@@ -39,6 +41,21 @@ enum class Condicao {
     DecretoOuSuspensao,                   // Decreto-Lei or suspension on
     DecretoSemObsolescenciaOuSuspensao,   // Decreto-Lei on and obsolescence off, or suspension on
     Suspensao,                            // suspension on
+    Obsolescencia,                        // obsolescence on
+};
+
+// A test of the validation, on one field.
+enum class Teste {
+    Vazio,          // blank
+    VazioSeAtivo,   // enabled and blank
+    Zero,           // a number of zeros
+    Regra,          // the field's own rule on leaving, when it is not blank
+};
+
+struct Passo {
+    Teste teste;
+    Papel papel;
+    QString msg;
 };
 
 // What a digit field checks when it is left filled.
@@ -76,13 +93,19 @@ struct MembroDocumento {
 
     QString tipoDigito;            // the check digit's kind of the electronic number ("DI", "DSI")
     QString msgNumeroInvalido;     // a complete number of zeros or with a wrong check digit
+    // Leaving a filled electronic number: fewer digits than the mask, and a number whose first two digits lie
+    // in prefixoRecusado (a year before the electronic document). Empty: no such test.
+    QString msgNumeroIncompleto;
+    QPair<int, int> prefixoRecusado{-1, -1};
+    QString msgPrefixoRecusado;
 
-    // Validation, in this order: the number, the old number's parts, `exigidos`, the total, the value blocks.
+    // Validation, in this order: the electronic number (blank, zero, short) or the old number's parts, then
+    // `passos`, then the value blocks.
     QString msgNumeroVazio;
+    QString msgNumeroZero;         // empty: no such test
     QString msgNumeroCurto;        // fewer digits than the mask; empty: no such test
     QString msgAntigaVazia;
-    QList<QPair<Papel, QString>> exigidos;
-    QString msgTotalVazio;
+    QList<Passo> passos;
 
     // The same line under the same parent: the number (or old number) and these parts.
     QList<Papel> chaveDuplicado;
@@ -96,6 +119,16 @@ struct MembroDocumento {
     Condicao habilitacao = Condicao::DecretoOuSuspensao;
     Condicao filhaNaInclusao = Condicao::DecretoOuSuspensao;
     Condicao filhaNaAlteracao = Condicao::DecretoOuSuspensao;
+    bool esvaziaBlocosAoMudar = false;  // every change of the suspension empties the value blocks
+    // The invoice's unit value: enabled, or emptied and disabled, when the Decreto-Lei check changes and when the
+    // obsolescence check changes.
+    Condicao unitarioAoMudarDecreto = Condicao::Decreto;
+    Condicao unitarioAoMudarObsolescencia = Condicao::Decreto;
+
+    // The invoice's series: capitals and no special characters (monthly), or letters and digits only.
+    bool serieMaiuscula = false;
+    QString msgSerieZero;          // a numeric series of value zero, on leaving
+    QString msgDataAno;            // a year of the date before 1970
 
     QStringList chavesMoeda;       // the currency picker's caller key of each value block
     QStringList titulosBlocos;     // "Produto" (inputs "Insumo"), "Frete Internacional", "Seguro Internacional"

@@ -1,5 +1,8 @@
 #include "gui/items/QuadroDocumento.h"
 
+#include "gui/items/NotaAquisicao.h"
+#include "gui/widgets/FieldFocus.h"
+
 #include "core/rules/DigitoVerificador.h"
 #include "core/rules/Formatadores.h"
 #include "core/rules/FormatoNumero.h"
@@ -86,35 +89,50 @@ QWidget* QuadroDocumento::constroiCampos()
     quadroCampos = new QGroupBox(this);
     quadroCampos->setObjectName(m_m.nomeQuadro);
     auto* g = new QGridLayout(quadroCampos);
-    const auto tem = [this](Papel p) { return m_m.nomes.contains(p); };
     const auto nome = [this](Papel p) { return m_m.nomes.value(p); };
 
-    auto* eletronica = new QGroupBox(QString::fromUtf8("Eletrônica"), quadroCampos);
-    auto* opcoes = new QHBoxLayout(eletronica);
-    for (Papel p : {Papel::Sim, Papel::Nao}) {
-        auto* o = new QRadioButton(p == Papel::Sim ? QStringLiteral("Sim") : QString::fromUtf8("Não"), eletronica);
-        o->setObjectName(nome(p));
-        m_campos.insert(p, o);
-        opcoes->addWidget(o);
+    int c = 0;
+    int l = 0;
+    if (tem(Papel::Sim)) {
+        auto* eletronica = new QGroupBox(QString::fromUtf8("Eletrônica"), quadroCampos);
+        auto* opcoes = new QHBoxLayout(eletronica);
+        for (Papel p : {Papel::Sim, Papel::Nao}) {
+            auto* o = new QRadioButton(p == Papel::Sim ? QStringLiteral("Sim") : QString::fromUtf8("Não"), eletronica);
+            o->setObjectName(nome(p));
+            m_campos.insert(p, o);
+            opcoes->addWidget(o);
+        }
+        g->addWidget(eletronica, 0, c++, 2, 1);
     }
-    g->addWidget(eletronica, 0, 0, 2, 1);
-
-    int c = 1;
-    adiciona(Papel::Numero, new MaskedField(QStringLiteral("##/#######-#"), nome(Papel::Numero)),
-             QString::fromUtf8("Número"), quadroCampos, g, 0, c++);
-    const QList<QPair<Papel, QString>> partes{{Papel::Ano, QStringLiteral("Ano")},
-                                             {Papel::Orgao, QString::fromUtf8("Órgão")},
-                                             {Papel::Sequencial, QString::fromUtf8("Seqüencial")},
-                                             {Papel::Adicao, QString::fromUtf8("Adição")},
-                                             {Papel::ItemAdicao, QStringLiteral("Item")},
-                                             {Papel::NumeroBem, QString::fromUtf8("Número do bem")}};
-    const QMap<Papel, int> larguras{{Papel::Ano, 2}, {Papel::Orgao, 7}, {Papel::Sequencial, 6},
-                                    {Papel::Adicao, 3}, {Papel::ItemAdicao, 2}, {Papel::NumeroBem, 3}};
-    for (const auto& [p, rotulo] : partes)
-        if (tem(p))
-            adiciona(p, new DigitField(nome(p), larguras.value(p)), rotulo, quadroCampos, g, 0, c++);
-    adiciona(Papel::Quantidade, new DecimalField(DecimalField::Quantity, nome(Papel::Quantidade), m_m.msgZeroDecimal),
-             RotuloQuantidade, quadroCampos, g, 0, c++);
+    // The fields in a row, an invoice's in two rows of at most six.
+    const QList<Papel> ordem{Papel::Numero, Papel::Ano,    Papel::Orgao,  Papel::Sequencial, Papel::Adicao,
+                             Papel::ItemAdicao, Papel::NumeroBem, Papel::NumeroNF, Papel::Serie, Papel::ItemNF,
+                             Papel::CFOP,   Papel::Data,   Papel::CNPJ,   Papel::Quantidade, Papel::ValorUnitario};
+    const QMap<Papel, QString> rotulos{{Papel::Numero, QString::fromUtf8("Número")},
+                                       {Papel::Ano, QStringLiteral("Ano")},
+                                       {Papel::Orgao, QString::fromUtf8("Órgão")},
+                                       {Papel::Sequencial, QString::fromUtf8("Seqüencial")},
+                                       {Papel::Adicao, QString::fromUtf8("Adição")},
+                                       {Papel::ItemAdicao, QStringLiteral("Item")},
+                                       {Papel::NumeroBem, QString::fromUtf8("Número do bem")},
+                                       {Papel::NumeroNF, QString::fromUtf8("Número")},
+                                       {Papel::Serie, QStringLiteral("Série/Subserie")},
+                                       {Papel::ItemNF, QStringLiteral("Item")},
+                                       {Papel::CFOP, QStringLiteral("CFOP")},
+                                       {Papel::Data, QString::fromUtf8("Data de emissão")},
+                                       {Papel::CNPJ, QStringLiteral("CNPJ do emissor")},
+                                       {Papel::Quantidade, RotuloQuantidade}};
+    int colunas = c;
+    for (Papel p : ordem) {
+        if (!tem(p))
+            continue;
+        if (!tem(Papel::Sim) && c == 6) {
+            c = 0;
+            l += 2;
+        }
+        adiciona(p, constroiCampo(p), m_m.rotulos.value(p, rotulos.value(p)), quadroCampos, g, l, c++);
+        colunas = std::max(colunas, c);
+    }
     m_rotulos.value(Papel::Quantidade)->setObjectName(m_m.nomeRotuloQuantidade);
 
     auto* checks = new QHBoxLayout;
@@ -130,15 +148,52 @@ QWidget* QuadroDocumento::constroiCampos()
         checks->addWidget(caixa);
     }
     checks->addStretch(1);
-    g->addLayout(checks, 2, 0, 1, c);
+    g->addLayout(checks, l + 2, 0, 1, colunas);
     if (tem(Papel::ValorTotal))
-        adiciona(Papel::ValorTotal, new DecimalField(DecimalField::TotalValue, nome(Papel::ValorTotal), m_m.msgZeroDecimal),
-                 QStringLiteral("Valor total (R$)"), quadroCampos, g, 3, 0);
+        adiciona(Papel::ValorTotal, constroiCampo(Papel::ValorTotal),
+                 m_m.rotulos.value(Papel::ValorTotal, QStringLiteral("Valor total (R$)")), quadroCampos, g, l + 3, 0);
     auto* blocos = new QHBoxLayout;
     for (int i = 0; i < m_m.titulosBlocos.size(); ++i)
         blocos->addWidget(constroiBloco(i));
-    g->addLayout(blocos, 5, 0, 1, c);
+    g->addLayout(blocos, l + 5, 0, 1, colunas);
     return quadroCampos;
+}
+
+// The control of a field, by its part.
+QWidget* QuadroDocumento::constroiCampo(Papel p)
+{
+    const QString nome = m_m.nomes.value(p);
+    switch (p) {
+    case Papel::Numero:
+        return new MaskedField(QStringLiteral("##/#######-#"), nome);
+    case Papel::Data:
+        return new MaskedField(QStringLiteral("##/##/####"), nome);
+    case Papel::CNPJ:
+        return new MaskedField(QStringLiteral("##.###.###/####-##"), nome);
+    case Papel::Serie: {
+        auto* serie = new QLineEdit;
+        serie->setObjectName(nome);
+        serie->setMaxLength(5);
+        return serie;
+    }
+    case Papel::NumeroNF: {
+        auto* numero = new DigitField(nome, 6);
+        numero->setDisplayFormat(QStringLiteral("000,000"));
+        return numero;
+    }
+    case Papel::Quantidade:
+        return new DecimalField(DecimalField::Quantity, nome, m_m.msgZeroDecimal);
+    case Papel::ValorUnitario:
+        return new DecimalField(DecimalField::UnitValue, nome, m_m.msgZeroDecimal);
+    case Papel::ValorTotal:
+        return new DecimalField(DecimalField::TotalValue, nome, m_m.msgZeroDecimal);
+    default:
+        break;
+    }
+    const QMap<Papel, int> larguras{{Papel::Ano, 2},       {Papel::Orgao, 7},     {Papel::Sequencial, 6},
+                                    {Papel::Adicao, 3},    {Papel::ItemAdicao, 2}, {Papel::NumeroBem, 3},
+                                    {Papel::ItemNF, 3},    {Papel::CFOP, 4}};
+    return new DigitField(nome, larguras.value(p));
 }
 
 QWidget* QuadroDocumento::constroiBloco(int i)
@@ -170,14 +225,15 @@ QWidget* QuadroDocumento::constroiBloco(int i)
 
 void QuadroDocumento::liga()
 {
-    auto* sim = qobject_cast<QRadioButton*>(campo(Papel::Sim));
-    connect(sim, &QRadioButton::toggled, this, &QuadroDocumento::eletronica_Click);
-    auto* numero = qobject_cast<MaskedField*>(campo(Papel::Numero));
-    connect(numero, &QLineEdit::textChanged, this, [this, numero] {
-        if (!m_carregando && numero->isComplete())
-            confereNumero();
-    });
-    aoSair(numero, [this, numero] { return numero->isBlank() || confereNumero(); });
+    if (auto* sim = qobject_cast<QRadioButton*>(campo(Papel::Sim)))
+        connect(sim, &QRadioButton::toggled, this, &QuadroDocumento::eletronica_Click);
+    if (auto* numero = qobject_cast<MaskedField*>(campo(Papel::Numero))) {
+        connect(numero, &QLineEdit::textChanged, this, [this, numero] {
+            if (!m_carregando && numero->isComplete())
+                confereNumero();
+        });
+        aoSair(numero, [this] { return confereNumeroAoSair(); });
+    }
     for (auto i = m_m.regras.cbegin(); i != m_m.regras.cend(); ++i)
         if (QWidget* w = campo(i.key()))
             aoSair(w, [this, p = i.key()] { return confereDigitos(p); });
@@ -189,6 +245,7 @@ void QuadroDocumento::liga()
                 obs->setEnabled(ligado);
             }
             habilitaValores();
+            habilitaUnitario(m_m.unitarioAoMudarDecreto);
         });
     }
     if (auto* obs = qobject_cast<QCheckBox*>(campo(Papel::Obsolescencia))) {
@@ -198,16 +255,99 @@ void QuadroDocumento::liga()
                 total->setEnabled(ligado);
             }
             habilitaValores();
+            habilitaUnitario(m_m.unitarioAoMudarObsolescencia);
         });
     }
     if (auto* susp = qobject_cast<QCheckBox*>(campo(Papel::Suspensao)))
-        connect(susp, &QCheckBox::toggled, this, &QuadroDocumento::habilitaValores);
+        connect(susp, &QCheckBox::toggled, this, [this] {
+            if (m_m.esvaziaBlocosAoMudar && !m_carregando)
+                for (int i = 0; i < m_blocos.size(); ++i)
+                    for (Papel p : {moeda(i), valor(i)})
+                        poe(p, QString());
+            habilitaValores();
+        });
     connect(grade, &ConsultGrid::rowChosen, this, &QuadroDocumento::escolheLinha);
+    ligaNota();
+}
+
+// An invoice's series, date, CFOP and CNPJ.
+void QuadroDocumento::ligaNota()
+{
+    if (auto* serie = qobject_cast<QLineEdit*>(campo(Papel::Serie))) {
+        connect(serie, &QLineEdit::textEdited, this, [this, serie](const QString& texto) {
+            const QString filtrado = NotaAquisicao::FiltraSerie(texto, m_m.serieMaiuscula);
+            if (filtrado == texto)
+                return;
+            const int cursor = serie->cursorPosition() - (texto.size() - filtrado.size());
+            serie->setText(filtrado);
+            serie->setCursorPosition(m_m.serieMaiuscula ? filtrado.size() : std::max(0, cursor));
+        });
+        aoSair(serie, [this] { return confereSerie(); });
+    }
+    if (QWidget* cfop = campo(Papel::CFOP))
+        aoSair(cfop, [this] {
+            const QString msg = mensagemCFOP();
+            if (msg.isEmpty())
+                return true;
+            MsgBox(msg, Msg::OKOnly | Msg::Critical);
+            return false;
+        });
+    if (QWidget* data = campo(Papel::Data))
+        aoSair(data, [this] { return confereData(); });
+    if (QWidget* cnpj = campo(Papel::CNPJ))
+        aoSair(cnpj, [this] {
+            const QString d = texto(Papel::CNPJ);
+            if (d.isEmpty())
+                return true;
+            if (Funcoes::EhZero(d)) {
+                MsgBox(QString::fromUtf8("CNPJ inválido."), Msg::OKOnly | Msg::Critical);
+                return false;
+            }
+            return Funcoes::ValidaCNPJ(d);
+        });
+}
+
+bool QuadroDocumento::confereSerie()
+{
+    if (!NotaAquisicao::SerieZero(texto(Papel::Serie)))
+        return true;
+    MsgBox(m_m.msgSerieZero, Msg::OKOnly | Msg::Critical);
+    return false;
+}
+
+// A date that passes brings the CFOP typed before it to its year; a CFOP that then fails takes the focus.
+bool QuadroDocumento::confereData()
+{
+    const QString d = texto(Papel::Data);
+    if (d.isEmpty())
+        return true;
+    if (const QString msg = NotaAquisicao::ConfereData(d, m_m.msgDataAno); !msg.isEmpty()) {
+        MsgBox(msg, Msg::OKOnly | Msg::Critical);
+        return false;
+    }
+    if (texto(Papel::CFOP).trimmed().size() >= 3) {
+        if (const QString msg = mensagemCFOP(); !msg.isEmpty()) {
+            MsgBox(msg, Msg::OKOnly | Msg::Critical);
+            returnFocusLater(campo(Papel::CFOP));
+        }
+    }
+    return true;
+}
+
+// The CFOP's message against the date, or empty; a blank CFOP passes.
+QString QuadroDocumento::mensagemCFOP() const
+{
+    const QString cfop = texto(Papel::CFOP);
+    if (cfop.trimmed().isEmpty())
+        return QString();
+    return NotaAquisicao::ConfereCFOP(cfop, texto(Papel::Data));
 }
 
 // "Não" shows the old number's parts and takes the suspension away; "Sim" shows the electronic number.
 void QuadroDocumento::eletronica_Click()
 {
+    if (!tem(Papel::Sim))
+        return;
     const bool sim = eletronica();
     for (Papel p : {Papel::Ano, Papel::Orgao, Papel::Sequencial}) {
         if (sim)
@@ -234,7 +374,16 @@ bool QuadroDocumento::marcado(Papel p) const
 
 bool QuadroDocumento::eletronica() const
 {
-    return qobject_cast<QRadioButton*>(campo(Papel::Sim))->isChecked();
+    auto* sim = qobject_cast<QRadioButton*>(campo(Papel::Sim));
+    return sim && sim->isChecked();
+}
+
+// Where a refused number sends the focus: the electronic number, the old number's year or the invoice's number.
+Papel QuadroDocumento::focoNumero() const
+{
+    if (!tem(Papel::Sim))
+        return Papel::NumeroNF;
+    return eletronica() ? Papel::Numero : Papel::Ano;
 }
 
 bool QuadroDocumento::vale(Condicao c) const
@@ -250,6 +399,8 @@ bool QuadroDocumento::vale(Condicao c) const
         return (dl && !marcado(Papel::Obsolescencia)) || susp;
     case Condicao::Suspensao:
         return susp;
+    case Condicao::Obsolescencia:
+        return marcado(Papel::Obsolescencia);
     }
     return false;
 }
@@ -267,6 +418,17 @@ void QuadroDocumento::habilitaValores()
     }
 }
 
+void QuadroDocumento::habilitaUnitario(Condicao c)
+{
+    QWidget* unitario = campo(Papel::ValorUnitario);
+    if (!unitario)
+        return;
+    const bool ligado = vale(c);
+    if (!ligado)
+        poe(Papel::ValorUnitario, QString());
+    unitario->setEnabled(ligado);
+}
+
 bool QuadroDocumento::recusa(const QString& texto, Papel foco)
 {
     MsgBox(texto, Msg::OKOnly | Msg::Critical);
@@ -282,6 +444,28 @@ bool QuadroDocumento::confereNumero()
         MsgBox(m_m.msgNumeroInvalido, Msg::OKOnly | Msg::Critical);
         return false;
     }
+    return true;
+}
+
+// Leaving a filled electronic number: its length when the member tests it, the zeros and the check digit, then the
+// years it may not belong to.
+bool QuadroDocumento::confereNumeroAoSair()
+{
+    auto* numero = qobject_cast<MaskedField*>(campo(Papel::Numero));
+    if (numero->isBlank())
+        return true;
+    const auto falha = [](const QString& msg) {
+        MsgBox(msg, Msg::OKOnly | Msg::Critical);
+        return false;
+    };
+    if (!m_m.msgNumeroIncompleto.isEmpty() && !numero->isComplete())
+        return falha(m_m.msgNumeroIncompleto);
+    if (!confereNumero())
+        return false;
+    const int prefixo = numero->digits().left(2).toInt();
+    if (!m_m.msgPrefixoRecusado.isEmpty() && prefixo >= m_m.prefixoRecusado.first
+        && prefixo <= m_m.prefixoRecusado.second)
+        return falha(m_m.msgPrefixoRecusado);
     return true;
 }
 
@@ -328,6 +512,8 @@ QString QuadroDocumento::texto(Papel p) const
     QWidget* w = campo(p);
     if (auto* d = qobject_cast<DecimalField*>(w))
         return d->value();
+    if (auto* d = qobject_cast<DigitField*>(w))
+        return d->value();
     if (auto* mf = qobject_cast<MaskedField*>(w))
         return mf->digits();
     if (auto* c = qobject_cast<QCheckBox*>(w))
@@ -341,6 +527,8 @@ void QuadroDocumento::poe(Papel p, const QString& v)
 {
     QWidget* w = campo(p);
     if (auto* d = qobject_cast<DecimalField*>(w))
+        d->setValue(v);
+    else if (auto* d = qobject_cast<DigitField*>(w))
         d->setValue(v);
     else if (auto* mf = qobject_cast<MaskedField*>(w))
         mf->setDigits(v);
@@ -356,18 +544,36 @@ bool QuadroDocumento::valida()
         auto* numero = qobject_cast<MaskedField*>(campo(Papel::Numero));
         if (numero->isBlank())
             return recusa(m_m.msgNumeroVazio, Papel::Numero);
+        if (!m_m.msgNumeroZero.isEmpty() && Funcoes::EhZero(numero->digits()))
+            return recusa(m_m.msgNumeroZero, Papel::Numero);
         if (!m_m.msgNumeroCurto.isEmpty() && !numero->isComplete())
             return recusa(m_m.msgNumeroCurto, Papel::Numero);
-    } else {
+    } else if (tem(Papel::Sim)) {
         for (Papel p : {Papel::Ano, Papel::Orgao, Papel::Sequencial})
             if (texto(p).trimmed().isEmpty())
                 return recusa(m_m.msgAntigaVazia, Papel::Ano);
     }
-    for (const auto& [p, msg] : m_m.exigidos)
-        if (texto(p).trimmed().isEmpty())
-            return recusa(msg, p);
-    if (QWidget* total = campo(Papel::ValorTotal); total && total->isEnabled() && texto(Papel::ValorTotal).isEmpty())
-        return recusa(m_m.msgTotalVazio, Papel::ValorTotal);
+    for (const Passo& passo : m_m.passos) {
+        const QString v = texto(passo.papel).trimmed();
+        switch (passo.teste) {
+        case Teste::Vazio:
+            if (v.isEmpty())
+                return recusa(passo.msg, passo.papel);
+            break;
+        case Teste::VazioSeAtivo:
+            if (campo(passo.papel)->isEnabled() && v.isEmpty())
+                return recusa(passo.msg, passo.papel);
+            break;
+        case Teste::Zero:
+            if (soDigitos(v) && Funcoes::EhZero(v))
+                return recusa(passo.msg, passo.papel);
+            break;
+        case Teste::Regra:
+            if (const QString msg = mensagemCFOP(); !msg.isEmpty())
+                return recusa(msg, passo.papel);
+            break;
+        }
+    }
     const QString moedaNula = QStringLiteral("O campo moeda não pode ser nulo.");
     const QString naoEncontrada = QStringLiteral("Código de Moeda não encontrado!");
     const QString valorNulo = QString::fromUtf8("O campo valor unitário não pode ser nulo.");
@@ -400,6 +606,8 @@ QVariantMap QuadroDocumento::linha() const
     QVariantMap l;
     for (auto i = m_m.colunas.cbegin(); i != m_m.colunas.cend(); ++i)
         l.insert(i.value().toUpper(), texto(i.key()));
+    if (!tem(Papel::Sim))
+        return l;
     const bool sim = eletronica();
     if (!sim)
         l.insert(m_m.colunas.value(Papel::Numero).toUpper(), QString());
@@ -411,8 +619,11 @@ QVariantMap QuadroDocumento::linha() const
 QVariantMap QuadroDocumento::criterio() const
 {
     const QVariantMap l = linha();
-    const QString numero = (eletronica() ? m_m.colunas.value(Papel::Numero) : m_m.colunaNumeroAntiga).toUpper();
-    QVariantMap c{{numero, l.value(numero)}};
+    QVariantMap c;
+    if (tem(Papel::Sim)) {
+        const QString numero = (eletronica() ? m_m.colunas.value(Papel::Numero) : m_m.colunaNumeroAntiga).toUpper();
+        c.insert(numero, l.value(numero));
+    }
     for (Papel p : m_m.chaveDuplicado) {
         const QString col = m_m.colunas.value(p).toUpper();
         c.insert(col, l.value(col));
@@ -429,7 +640,7 @@ void QuadroDocumento::definePai(const QVariantList& pai, const QMap<QString, QSt
 void QuadroDocumento::defineUnidade(const QString& unidade)
 {
     if (QLabel* r = m_rotulos.value(Papel::Quantidade))
-        r->setText(RotuloQuantidade + unidade);
+        r->setText(m_m.rotulos.value(Papel::Quantidade, RotuloQuantidade) + unidade);
 }
 
 void QuadroDocumento::carrega()
@@ -464,13 +675,15 @@ void QuadroDocumento::limpa()
     for (Papel p : {Papel::Suspensao, Papel::Obsolescencia, Papel::DecretoLei})
         if (auto* c = qobject_cast<QCheckBox*>(campo(p)))
             c->setChecked(false);
-    qobject_cast<QRadioButton*>(campo(Papel::Sim))->setChecked(true);
+    if (auto* sim = qobject_cast<QRadioButton*>(campo(Papel::Sim)))
+        sim->setChecked(true);
     eletronica_Click();
     if (auto* obs = campo(Papel::Obsolescencia))
         obs->setEnabled(false);
     if (auto* total = campo(Papel::ValorTotal))
         total->setEnabled(false);
     habilitaValores();
+    habilitaUnitario(m_m.unitarioAoMudarDecreto);
     m_carregando = false;
 }
 
@@ -492,9 +705,10 @@ void QuadroDocumento::mostra(const QVariantMap& l)
 {
     m_carregando = true;
     const QString antiga = l.value(m_m.colunaNumeroAntiga.toUpper()).toString().trimmed();
-    qobject_cast<QRadioButton*>(campo(antiga.isEmpty() ? Papel::Sim : Papel::Nao))->setChecked(true);
+    if (tem(Papel::Sim))
+        qobject_cast<QRadioButton*>(campo(antiga.isEmpty() ? Papel::Sim : Papel::Nao))->setChecked(true);
     eletronica_Click();
-    if (!antiga.isEmpty()) {
+    if (tem(Papel::Sim) && !antiga.isEmpty()) {
         poe(Papel::Ano, antiga.mid(0, 2));
         poe(Papel::Orgao, antiga.mid(2, 7));
         poe(Papel::Sequencial, antiga.mid(9));
@@ -504,6 +718,7 @@ void QuadroDocumento::mostra(const QVariantMap& l)
         if (m_m.colunas.contains(p))
             poe(p, l.value(m_m.colunas.value(p).toUpper()).toString());
     habilitaValores();
+    habilitaUnitario(marcado(Papel::Obsolescencia) ? m_m.unitarioAoMudarObsolescencia : m_m.unitarioAoMudarDecreto);
     for (auto i = m_m.colunas.cbegin(); i != m_m.colunas.cend(); ++i) {
         const Papel p = i.key();
         if (p != Papel::DecretoLei && p != Papel::Obsolescencia && p != Papel::Suspensao)
@@ -521,8 +736,8 @@ bool QuadroDocumento::incluir()
     if (m_pai.isEmpty() || !valida())
         return false;
     if (DocumentoEntrada::Existe(m_m.dados, m_pai, criterio())) {
-        const bool sim = eletronica();
-        return recusa(sim ? m_m.msgDuplicadoEletronica : m_m.msgDuplicadoAntiga, sim ? Papel::Numero : Papel::Ano);
+        const bool antiga = tem(Papel::Sim) && !eletronica();
+        return recusa(antiga ? m_m.msgDuplicadoAntiga : m_m.msgDuplicadoEletronica, focoNumero());
     }
     modVRTPLN::AlteracaoPendente = true;
     const QVariantMap l = linha();
@@ -549,7 +764,7 @@ bool QuadroDocumento::alterar()
         for (auto i = c.cbegin(); i != c.cend(); ++i)
             mudou = mudou || i.value().toString().trimmed() != m_escolhida.value(i.key()).toString().trimmed();
         if (mudou && DocumentoEntrada::Existe(m_m.dados, m_pai, c))
-            return recusa(m_m.msgDuplicadoAlteracao, eletronica() ? Papel::Numero : Papel::Ano);
+            return recusa(m_m.msgDuplicadoAlteracao, focoNumero());
     }
     modVRTPLN::AlteracaoPendente = true;
     const QVariantMap l = linha();

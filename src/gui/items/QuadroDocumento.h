@@ -50,12 +50,21 @@ signals:
 
 private:
     QWidget* constroiCampos();
+    QWidget* constroiCampo(Papel p);
+    void ligaNota();
     QWidget* constroiBloco(int i);
     void adiciona(Papel papel, QWidget* campo, const QString& rotulo, QWidget* area, class QGridLayout* grade,
                   int linha, int coluna);
     void liga();
     void eletronica_Click();
     void habilitaValores();
+    void habilitaUnitario(Condicao c);
+    bool tem(Papel p) const { return m_m.nomes.contains(p); }
+    Papel focoNumero() const;
+    bool confereNumeroAoSair();
+    bool confereData();
+    bool confereSerie();
+    QString mensagemCFOP() const;
     bool vale(Condicao c) const;
     bool marcado(Papel p) const;
     bool eletronica() const;

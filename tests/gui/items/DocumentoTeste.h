@@ -29,6 +29,34 @@ inline QString numeroDI(const QString& nove = QStringLiteral("091234567"))
     return QString();
 }
 
+// A DSI number with a good check digit.
+inline QString numeroDSI(const QString& nove = QStringLiteral("091234567"))
+{
+    for (int d = 0; d <= 9; ++d)
+        if (Funcoes::ValidaDigito(nove + QString::number(d), QStringLiteral("DSI")))
+            return nove + QString::number(d);
+    return QString();
+}
+
+// A CNPJ with good check digits.
+inline const QString CnpjFornecedor = QStringLiteral("11222333000181");
+
+inline const char* nomeTipo(TipoDocumento t)
+{
+    return t == TipoDocumento::DI ? "DI" : t == TipoDocumento::DSI ? "DSI" : "NFA";
+}
+
+// One row per member of the foreign product's document family, named "DI mensal", "NFA individual", ...
+inline void linhasMembros()
+{
+    QTest::addColumn<int>("tipo");
+    QTest::addColumn<bool>("individual");
+    for (const MembroDocumento& m : MembrosDocumento())
+        if (m.origem == Origem::Produto)
+            QTest::addRow("%s %s", nomeTipo(m.tipo), m.individual ? "individual" : "mensal")
+                << int(m.tipo) << m.individual;
+}
+
 inline AbaProdutoEstrangeiro* abaPE(Ambiente& a)
 {
     return qobject_cast<AbaProdutoEstrangeiro*>(a.editor()->abaItens(1));
@@ -37,13 +65,14 @@ inline AbaProdutoEstrangeiro* abaPE(Ambiente& a)
 struct Cenario {
     Ambiente& a;
     bool individual;
+    TipoDocumento tipo = TipoDocumento::DI;
     qint64 item = 0;
     qint64 destinos[2] = {};
 
     Cenario(Ambiente& ambiente, bool ind) : a(ambiente), individual(ind) {}
 
     PaginaDocumentoOrigem* pagina() const { return abaPE(a)->documentoOrigem; }
-    QuadroDocumento* quadro(TipoDocumento t = TipoDocumento::DI) const { return pagina()->quadro(t); }
+    QuadroDocumento* quadro() const { return pagina()->quadro(tipo); }
 
     // The declaration with its product, stored through the store's routines of the modality.
     void declaracaoComProduto()
@@ -69,8 +98,9 @@ struct Cenario {
     }
 
     // The page "Documento de Origem" with the product, its first destination (or the item) and the kind chosen.
-    void abre(TipoDocumento tipo = TipoDocumento::DI, int destino = 0)
+    void abre(TipoDocumento escolhido = TipoDocumento::DI, int destino = 0)
     {
+        tipo = escolhido;
         abaPE(a)->tabProdutoEstrangeiro->setCurrentIndex(1);
         if (individual) {
             a.escolhe(QStringLiteral("cboItem"), QStringLiteral("001"));
@@ -108,6 +138,37 @@ struct Cenario {
         digita(Papel::ItemAdicao, itemAdicao);
         digita(Papel::Quantidade, quantidade);
         a.sai(nome(Papel::Adicao));
+    }
+
+    // A complete line of the member in force, without the checks; `n` makes another line of the same kind.
+    void preencheValida(int n = 1)
+    {
+        const QString v = QString::number(n);
+        if (tipo == TipoDocumento::DI) {
+            preencheDI(numeroDI(), QStringLiteral("1"), v);
+            return;
+        }
+        if (tipo == TipoDocumento::DSI) {
+            digita(Papel::Numero, numeroDSI());
+            digita(Papel::NumeroBem, v);
+            digita(Papel::Quantidade, QStringLiteral("4"));
+            a.sai(nome(Papel::NumeroBem));
+            return;
+        }
+        digita(Papel::NumeroNF, QStringLiteral("1234"));
+        digita(Papel::Serie, QStringLiteral("A1"));
+        digita(Papel::ItemNF, v);
+        digita(Papel::Data, QStringLiteral("15012008"));
+        digita(Papel::CFOP, QStringLiteral("5102"));
+        digita(Papel::CNPJ, CnpjFornecedor);
+        digita(Papel::Quantidade, QStringLiteral("4"));
+        a.sai(nome(Papel::ItemNF));
+    }
+
+    // The part that tells two lines of the member apart in preencheValida.
+    Papel parteDaLinha() const
+    {
+        return tipo == TipoDocumento::DI ? Papel::ItemAdicao : tipo == TipoDocumento::DSI ? Papel::NumeroBem : Papel::ItemNF;
     }
 
     // The table of the member and its child row, as the store holds them.

@@ -1,8 +1,6 @@
-// The DI of a foreign product in both editors, through the real page "Documento de Origem". The rules the members
-// share run once per member from the table of members; what differs is given per row.
+// The DI's own rules for a foreign product in both editors, through the real page "Documento de Origem"; the rules
+// it shares with the other members of the family run in tst_documentoFamilia.
 #include "DocumentoTeste.h"
-
-#include "gui/assistants/DestinosEscolha.h"
 
 using namespace DocumentoTeste;
 using namespace modVRTPLN;
@@ -31,23 +29,6 @@ QString linhaDI(const QString& tabela, const QString& colunas)
 class tst_documentoDI : public QObject {
     Q_OBJECT
 private slots:
-    void paginaMostraADIEscolhida_data() { membros(); }
-    void paginaMostraADIEscolhida()
-    {
-        QFETCH(bool, individual);
-        Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre();
-        QVERIFY(c.quadro()->isVisible());
-        QVERIFY(c.pagina()->botoes->isVisible());
-        QVERIFY(qobject_cast<QRadioButton*>(c.quadro()->campo(Papel::Sim))->isChecked());
-        QVERIFY(!c.ativo(Papel::Valor0));
-        QVERIFY(!c.ativo(Papel::Obsolescencia));
-        QCOMPARE(a.campo<QLabel>(t("lblQuantidadeDI_PE"))->text(), t("Quant. comercial em UN"));
-        QCOMPARE(a.msgs.inesperadas, 0);
-    }
-
     void blocosDeValorSeguemAsCaixas_data()
     {
         QTest::addColumn<bool>("individual");
@@ -440,110 +421,6 @@ private slots:
         QCOMPARE(a.msgs.inesperadas, 0);
     }
 
-    void mesmaLinhaDuasVezesRecusada_data()
-    {
-        QTest::addColumn<bool>("individual");
-        QTest::addColumn<QString>("mensagem");
-        QTest::newRow("mensal") << false << t("O conjunto DI/Adição/Item já encontra-se incluído.");
-        QTest::newRow("individual") << true << t("DI já incluída.");
-    }
-    void mesmaLinhaDuasVezesRecusada()
-    {
-        QFETCH(bool, individual);
-        QFETCH(QString, mensagem);
-        Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre();
-        c.preencheDI();
-        c.incluir();
-        c.preencheDI();
-        a.msgs.responde(Msg::OK);
-        c.incluir();
-        QCOMPARE(a.msgs.textos(), QStringList{mensagem});
-        // Another item of the same adição is another line.
-        a.msgs.limpa();
-        c.digita(Papel::ItemAdicao, t("2"));
-        a.sai(c.nome(Papel::Adicao));
-        c.incluir();
-        QCOMPARE(a.msgs.textos(), QStringList());
-        QCOMPARE(BancoTeste::conta(c.tabela()), 2);
-        QCOMPARE(c.quadro()->grade->dataRowCount(), 2);
-        QCOMPARE(a.msgs.inesperadas, 0);
-    }
-
-    void alterarParaLinhaExistenteSoNoMensal_data()
-    {
-        QTest::addColumn<bool>("individual");
-        QTest::addColumn<int>("linhas");
-        QTest::newRow("mensal procura") << false << 0;
-        QTest::newRow("individual não procura") << true << 2;
-    }
-    void alterarParaLinhaExistenteSoNoMensal()
-    {
-        QFETCH(bool, individual);
-        QFETCH(int, linhas);
-        Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre();
-        c.preencheDI();
-        c.incluir();
-        c.preencheDI(numeroDI(), t("1"), t("2"));
-        c.incluir();
-        c.escolheLinha(1);
-        c.digita(Papel::ItemAdicao, t("1"));
-        a.sai(c.nome(Papel::Adicao));
-        if (!individual)
-            a.msgs.responde(Msg::OK);
-        c.alterar();
-        QCOMPARE(a.msgs.textos(), individual ? QStringList() : QStringList{t("DI já incluída.")});
-        QCOMPARE(BancoTeste::conta(c.tabela(), t("NR_ITEM_ADICAO = '01'")), linhas == 0 ? 1 : 2);
-        QCOMPARE(a.msgs.inesperadas, 0);
-    }
-
-    void moedaDesconhecidaAvisada_data() { membros(); }
-    void moedaDesconhecidaAvisada()
-    {
-        QFETCH(bool, individual);
-        Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre();
-        c.clica(Papel::Suspensao);
-        a.msgs.responde(Msg::OK);
-        c.digita(Papel::Moeda1, t("999"));
-        QCOMPARE(a.msgs.textos(), QStringList{t("Código de Moeda não encontrado!")});
-        QCOMPARE(qobject_cast<QLineEdit*>(c.quadro()->campo(Papel::Moeda1))->selectedText(), t("999"));
-        QCOMPARE(a.msgs.inesperadas, 0);
-    }
-
-    void pickerDeMoedaEscreveNoCampoDaChave_data()
-    {
-        QTest::addColumn<bool>("individual");
-        QTest::addColumn<QStringList>("chaves");
-        QTest::newRow("mensal") << false
-                                << QStringList{t("produtoPEMensalDIProd"), t("produtoPEMensalDIFI"), t("produtoPEMensalDISI")};
-        QTest::newRow("individual") << true << QStringList{t("produtoPEDIProd"), t("produtoPEDIFI"), t("produtoPEDISI")};
-    }
-    void pickerDeMoedaEscreveNoCampoDaChave()
-    {
-        QFETCH(bool, individual);
-        QFETCH(QStringList, chaves);
-        Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre();
-        c.clica(Papel::DecretoLei);
-        const QStringList codigos{t("220"), t("978"), t("790")};
-        for (int i = 0; i < 3; ++i)
-            QVERIFY(DestinosEscolha::moeda().entrega(chaves.at(i), codigos.at(i)));
-        QCOMPARE(c.texto(Papel::Moeda0), t("220"));
-        QCOMPARE(c.texto(Papel::Moeda1), t("978"));
-        QCOMPARE(c.texto(Papel::Moeda2), t("790"));
-        QCOMPARE(a.msgs.inesperadas, 0);
-    }
-
     void mesmaDIEmDoisDestinosDoProduto()
     {
         Ambiente a;
@@ -608,48 +485,6 @@ private slots:
         QCOMPARE(a.msgs.textos(), QStringList{mensagem});
         QCOMPARE(a.msgs.caixas.first().icone(), individual ? Msg::Critical : Msg::Information);
         QCOMPARE(abaPE(a)->tabProdutoEstrangeiro->currentIndex(), 0);
-        QCOMPARE(a.msgs.inesperadas, 0);
-    }
-
-    void excluirPerguntaEOUltimoReiniciaAPagina()
-    {
-        Ambiente a;
-        Cenario c(a, false);
-        c.declaracaoComProduto();
-        c.abre();
-        c.preencheDI();
-        c.clica(Papel::DecretoLei);
-        c.digita(Papel::Moeda0, t("220"));
-        c.digita(Papel::Valor0, t("10"));
-        c.incluir();
-        c.escolheLinha(0);
-        a.msgs.responde(Msg::No);
-        c.excluir();
-        QCOMPARE(a.msgs.textos(), QStringList{t("Deseja realmente excluir?")});
-        QCOMPARE(BancoTeste::conta(t("ITEM_DI_PE_MEN")), 1);
-        c.escolheLinha(0);
-        a.msgs.responde(Msg::Yes);
-        c.excluir();
-        QCOMPARE(BancoTeste::conta(t("ITEM_DI_PE_MEN")), 0);
-        QCOMPARE(BancoTeste::conta(t("ITEM_IMPORT_288_PE_MEN")), 0);
-        QVERIFY(!c.pagina()->opcoes[0]->isChecked());
-        QVERIFY(!c.quadro()->isVisible());
-        QVERIFY(!c.pagina()->botoes->isVisible());
-        QCOMPARE(a.msgs.inesperadas, 0);
-    }
-
-    void incluirNoIndividualPedeOItem()
-    {
-        Ambiente a;
-        Cenario c(a, true);
-        c.declaracaoComProduto();
-        abaPE(a)->tabProdutoEstrangeiro->setCurrentIndex(1);
-        a.clica(t("optDI_tabProdutoEstrangeiro"));
-        c.preencheDI();
-        a.msgs.responde(Msg::OK);
-        c.incluir();
-        QCOMPARE(a.msgs.textos(), QStringList{t("Não foi escolhido produto para documento de origem.")});
-        QCOMPARE(BancoTeste::conta(t("ITEM_DI_PE_IND")), 0);
         QCOMPARE(a.msgs.inesperadas, 0);
     }
 };
