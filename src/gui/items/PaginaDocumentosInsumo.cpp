@@ -4,6 +4,9 @@
 #include "core/session/MsgBox.h"
 #include "core/session/modVRTPLN.h"
 #include "core/store/ItensPIsemPPB.h"
+#include "core/store/DocumentoEntrada.h"
+#include "gui/blocks/QuatroBotoes.h"
+#include "gui/items/QuadroDocumento.h"
 #include "gui/widgets/DecimalField.h"
 
 #include <QComboBox>
@@ -12,6 +15,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
 
@@ -71,7 +75,35 @@ PaginaDocumentosInsumo::PaginaDocumentosInsumo(bool individual, std::function<QS
     }
     linha->addStretch();
     coluna->addWidget(tipos);
-    coluna->addStretch(1);
+    botoes = new QuatroBotoes(QStringLiteral("cmd%1_tabPIsemPPB"), this);
+    botoes->cmdLimpar->setObjectName(QStringLiteral("cmdLimpar_TabPIsemPPB"));
+    coluna->addWidget(botoes);
+    for (int tipo = 0; tipo < 3; ++tipo) {
+        const MembroDocumento* m = Membro(static_cast<TipoDocumento>(tipo), Origem::Insumo, individual);
+        if (!m)
+            continue;
+        auto* q = new QuadroDocumento(*m, this);
+        m_quadros.insert(tipo, q);
+        coluna->addWidget(q, 1);
+        connect(q, &QuadroDocumento::selecaoMudou, botoes, &QuatroBotoes::habilitaSelecao);
+    }
+    coluna->addStretch(0);
+    connect(botoes->cmdIncluir, &QPushButton::clicked, this, [this] {
+        if (QuadroDocumento* q = atual())
+            q->incluir();
+    });
+    connect(botoes->cmdAlterar, &QPushButton::clicked, this, [this] {
+        if (QuadroDocumento* q = atual())
+            q->alterar();
+    });
+    connect(botoes->cmdExcluir, &QPushButton::clicked, this, &PaginaDocumentosInsumo::excluir);
+    connect(botoes->cmdLimpar, &QPushButton::clicked, this, [this] {
+        if (QuadroDocumento* q = atual()) {
+            q->limpa();
+            q->carrega();
+        }
+    });
+    reinicia();
 
     connect(cboInsumo, &QComboBox::activated, this, &PaginaDocumentosInsumo::escolheInsumo);
     connect(total, &DecimalField::leaveAccepted, this, &PaginaDocumentosInsumo::gravaTotal);
@@ -84,14 +116,11 @@ QString PaginaDocumentosInsumo::codigo() const
 
 bool PaginaDocumentosInsumo::entra()
 {
+    reinicia();
     cboInsumo->clear();
     total->clear();
     m_existe = false;
-    for (QRadioButton* o : opcoes) {
-        o->setAutoExclusive(false);
-        o->setChecked(false);
-        o->setAutoExclusive(true);
-    }
+    definePai();
     if (m_individual) {
         cboItem->clear();
         const QList<QStringList> itens = Itens::LinhasProdutosNota(m_idNfs());
@@ -126,6 +155,8 @@ void PaginaDocumentosInsumo::escolheItem()
     for (const QStringList& i : Itens::LinhasInsumosNota(cboItem->currentData().toLongLong()))
         cboInsumo->addItem(i.value(1), i.value(0));
     cboInsumo->setCurrentIndex(-1);
+    reinicia();
+    definePai();
 }
 
 void PaginaDocumentosInsumo::escolheInsumo()
@@ -134,14 +165,27 @@ void PaginaDocumentosInsumo::escolheInsumo()
     m_existe = t.has_value();
     total->setText(t && !t->isEmpty() ? Funcoes::FormataNumero(*t, total->displayFormat()) : QString());
     m_textoAoEntrar = total->text();
-    if (m_individual)
+    if (m_individual) {
+        for (const QStringList& i : Itens::LinhasInsumosNota(cboItem->currentData().toLongLong()))
+            if (i.value(0) == cboInsumo->currentData().toString())
+                for (QuadroDocumento* q : std::as_const(m_quadros))
+                    q->defineUnidade(i.value(6));
+        definePai();
+        if (QuadroDocumento* q = atual())
+            q->carrega();
         return;
-    rotuloQuantidade->setText(QStringLiteral("Quant. comercial em ") + Itens::UnidadeDoInsumo(m_idVrt(), codigo()));
+    }
+    reinicia();
+    const QString unidade = Itens::UnidadeDoInsumo(m_idVrt(), codigo());
+    rotuloQuantidade->setText(QStringLiteral("Quant. comercial em ") + unidade);
+    for (QuadroDocumento* q : std::as_const(m_quadros))
+        q->defineUnidade(unidade);
     cboLocal->clear();
     txtQuantidadeTotalInsumo->clear();
     for (const QStringList& l : Itens::LocaisDoInsumo(m_idVrt(), codigo()))
         cboLocal->addItem(l.value(1), l.value(0));
     cboLocal->setCurrentIndex(-1);
+    definePai();
 }
 
 void PaginaDocumentosInsumo::escolheLocal()
@@ -149,21 +193,93 @@ void PaginaDocumentosInsumo::escolheLocal()
     for (const QStringList& l : Itens::LocaisDoInsumo(m_idVrt(), codigo()))
         if (l.value(0) == cboLocal->currentData().toString())
             txtQuantidadeTotalInsumo->setText(Funcoes::FormataNumero(l.value(2), QStringLiteral("#,##0.00000")));
+    definePai();
+    // The grid that reloads is the one of the kind chosen on the foreign product's page, as it always was; with no
+    // choice kept there, no grid reloads.
+    const char* nomesPE[3] = {"optDI_tabProdutoEstrangeiro", "optDSI_tabProdutoEstrangeiro",
+                              "optNFA_tabProdutoEstrangeiro"};
+    for (int tipo = 0; tipo < 3; ++tipo) {
+        auto* o = window()->findChild<QRadioButton*>(QString::fromLatin1(nomesPE[tipo]));
+        if (o && o->isChecked() && m_quadros.contains(tipo))
+            m_quadros.value(tipo)->carrega();
+    }
 }
 
-void PaginaDocumentosInsumo::escolheTipo(int)
+void PaginaDocumentosInsumo::escolheTipo(int tipo)
 {
-    if (m_individual) {
-        if (cboItem->currentIndex() < 0)
-            MsgBox(QStringLiteral("Selecione um item."), Msg::OKOnly);
-        else if (cboInsumo->currentIndex() < 0)
-            MsgBox(QStringLiteral("Selecione um insumo."), Msg::OKOnly);
+    QString falta;
+    if (m_individual)
+        falta = cboItem->currentIndex() < 0      ? QStringLiteral("Selecione um item.")
+                : cboInsumo->currentIndex() < 0 ? QStringLiteral("Selecione um insumo.")
+                                                : QString();
+    else
+        falta = cboInsumo->currentIndex() < 0  ? QStringLiteral("Selecione um código de produto antes")
+                : cboLocal->currentIndex() < 0 ? QStringLiteral("Selecione um local de destino antes")
+                                               : QString();
+    if (!falta.isEmpty()) {
+        MsgBox(falta, m_individual ? Msg::OKOnly : Msg::OKOnly | Msg::Information);
+        reinicia();
         return;
     }
-    if (cboInsumo->currentIndex() < 0)
-        MsgBox(QStringLiteral("Selecione um código de produto antes"), Msg::OKOnly | Msg::Information);
-    else if (cboLocal->currentIndex() < 0)
-        MsgBox(QStringLiteral("Selecione um local de destino antes"), Msg::OKOnly | Msg::Information);
+    mostraTipo(tipo);
+}
+
+// No kind chosen: the three choices off, the frames and the buttons hidden.
+void PaginaDocumentosInsumo::reinicia()
+{
+    m_tipo = -1;
+    for (QRadioButton* o : opcoes) {
+        o->setAutoExclusive(false);
+        o->setChecked(false);
+        o->setAutoExclusive(true);
+    }
+    for (QuadroDocumento* q : std::as_const(m_quadros))
+        q->hide();
+    botoes->hide();
+}
+
+void PaginaDocumentosInsumo::mostraTipo(int tipo)
+{
+    m_tipo = tipo;
+    for (auto i = m_quadros.cbegin(); i != m_quadros.cend(); ++i)
+        i.value()->setVisible(i.key() == tipo);
+    botoes->show();
+    if (QuadroDocumento* q = atual()) {
+        q->limpa();
+        q->carrega();
+    }
+}
+
+// The parent of the lines: declaration, input and place (monthly) or the input row (individual).
+void PaginaDocumentosInsumo::definePai()
+{
+    QVariantList pai;
+    QMap<QString, QString> textos;
+    if (m_individual) {
+        if (cboInsumo->currentIndex() >= 0) {
+            pai << cboInsumo->currentData();
+            textos.insert(QStringLiteral("#produto"), codigo());
+        }
+    } else if (cboInsumo->currentIndex() >= 0 && cboLocal->currentIndex() >= 0) {
+        pai << m_idVrt() << codigo() << cboLocal->currentData();
+        textos.insert(QStringLiteral("#produto"), codigo());
+        textos.insert(QStringLiteral("#local"), cboLocal->currentText());
+    }
+    for (QuadroDocumento* q : std::as_const(m_quadros))
+        q->definePai(pai, textos);
+}
+
+void PaginaDocumentosInsumo::excluir()
+{
+    QuadroDocumento* q = atual();
+    if (!q || !q->excluir() || m_individual)
+        return;
+    // A place left with no document of any kind shows the page as when it was entered.
+    QList<TabelaDocumento> tabelas;
+    for (const QuadroDocumento* outro : std::as_const(m_quadros))
+        tabelas << outro->membro().dados;
+    if (!DocumentoEntrada::TemLinhas(tabelas, {m_idVrt(), codigo(), cboLocal->currentData()}))
+        reinicia();
 }
 
 // The total is written when the field is left, not on a button; a row written once is updated afterwards.

@@ -1,5 +1,6 @@
 // The tab "PI sem PPB" of both editors: products with their destinations, the inputs of each product with their
 // rates, the consolidated inputs of the page "Documentos de Origem" and the statistical total of an input.
+#include "DocumentoTeste.h"
 #include "ItensTeste.h"
 
 #include "gui/widgets/ConsultGrid.h"
@@ -83,6 +84,22 @@ void duasDestinacoes(Ambiente& a)
     escolheProdutoDoInsumo(a, QStringLiteral("P002"));
     insumoMensal(a, QStringLiteral("INS1"), QStringLiteral("2"), QStringLiteral("2"));
     incluirInsumo(a);
+}
+
+// A DI of the chosen input at the chosen place: electronic, under the Decreto-Lei, with the input's value.
+void diDoInsumo(Ambiente& a)
+{
+    a.clica(QStringLiteral("optDI_tabPIsemPPB"));
+    a.digita(QStringLiteral("mskNumDI_PIsemPPBDI"), DocumentoTeste::numeroDI());
+    a.digita(QStringLiteral("txtPIsemPPBDI(4)"), QStringLiteral("1"));
+    a.digita(QStringLiteral("txtPIsemPPBDI(5)"), QStringLiteral("1"));
+    a.digita(QStringLiteral("mskPIsemPPB(7)"), QStringLiteral("5"));
+    a.sai(QStringLiteral("txtPIsemPPBDI(4)"));
+    a.clica(QStringLiteral("chkDecretoLei28867_tabPIsemPPB_DI"));
+    a.digita(QStringLiteral("txtMoedaDI_PIsemPPB(0)"), QStringLiteral("220"));
+    a.digita(QStringLiteral("mskVlUnitMedidaDI_PIsemPPB(0)"), QStringLiteral("10"));
+    a.sai(QStringLiteral("txtMoedaDI_PIsemPPB(0)"));
+    a.clica(QStringLiteral("cmdIncluir_tabPIsemPPB"));
 }
 
 }  // namespace
@@ -266,6 +283,37 @@ private slots:
         paginas(a)->setCurrentIndex(2);
         a.escolhe(QStringLiteral("cboCCIInsumoPIsemPPB"), QStringLiteral("INS1"));
         QCOMPARE(a.campo<QLineEdit>(QStringLiteral("mskPIsemPPB(0)"))->text(), QStringLiteral("8,50000"));
+    }
+
+    void diDoInsumoSobreviveAoPrimeiroProdutoESaiComOUltimo()
+    {
+        Ambiente a;
+        naAba(a, false, 3);
+        cadastraInsumos();
+        duasDestinacoes(a);
+        paginas(a)->setCurrentIndex(2);
+        a.escolhe(QStringLiteral("cboCCIInsumoPIsemPPB"), QStringLiteral("INS1"));
+        a.escolhe(QStringLiteral("cboLocalDestinoInsumo"), Local1);
+        diDoInsumo(a);
+        QCOMPARE(a.msgs.textos(), QStringList());
+        QCOMPARE(conta(QStringLiteral("ITEM_DI_INS_MEN"), QStringLiteral("CD_INT_INSUMO = 'INS1' AND CD_LOCAL_DESTINO = '1' "
+                                                                         "AND NR_DI = ? AND QT_INSUMO_UNID_INS = '5,00000' "
+                                                                         "AND IND_DL_288_67 = 'S'"),
+                       {DocumentoTeste::numeroDI()}),
+                 1);
+        QCOMPARE(conta(QStringLiteral("ITEM_IMPORT_288_INS_MEN"), QStringLiteral("CD_MOEDA_NEG = '220'")), 1);
+        QCOMPARE(a.campo<ConsultGrid>(QStringLiteral("grdConsultaDI_tabPIsemPPB"))->dataRowCount(), 1);
+
+        // Excluding the input from one of its two products leaves its documents; from the second removes them all.
+        paginas(a)->setCurrentIndex(1);
+        for (const QString& p : {QStringLiteral("P001"), QStringLiteral("P002")}) {
+            escolheProdutoDoInsumo(a, p);
+            escolheLinha(a, GradeInsumo, 0);
+            a.msgs.responde(Msg::Yes);
+            a.clica(QStringLiteral("cmdExcluirInsumo"));
+            QCOMPARE(conta(QStringLiteral("ITEM_DI_INS_MEN")), p == QLatin1String("P001") ? 1 : 0);
+        }
+        QCOMPARE(conta(QStringLiteral("ITEM_IMPORT_288_INS_MEN")), 0);
     }
 
     void individualProdutoEInsumoComTotal()

@@ -3,6 +3,7 @@
 // included), read back into an empty database and opened again with the same rows.
 #include "ArquivoTeste.h"
 #include "CenariosGravacao.h"
+#include "DocumentoTeste.h"
 #include "ItensTeste.h"
 
 #include "core/file/reading/LeArquivoVrt.h"
@@ -148,6 +149,14 @@ private slots:
         insumo(a, t("INS1"), t("2"), true);
         paginas(a)->setCurrentIndex(2);
         totalDoInsumo(a, t("cboCCIInsumoPIsemPPB"), t("mskPIsemPPB(0)"), t("INS1"), t("8,5"));
+        a.escolhe(t("cboLocalDestinoInsumo"), Local1);
+        a.clica(t("optDI_tabPIsemPPB"));
+        a.digita(t("mskNumDI_PIsemPPBDI"), DocumentoTeste::numeroDI());
+        a.digita(t("txtPIsemPPBDI(4)"), t("1"));
+        a.digita(t("txtPIsemPPBDI(5)"), t("2"));
+        a.digita(t("mskPIsemPPB(7)"), t("5"));
+        a.sai(t("txtPIsemPPBDI(4)"));
+        a.clica(t("cmdIncluir_tabPIsemPPB"));
         QCOMPARE(a.msgs.textos(), QStringList());
         const QString id = e->idVrt();
         a.salvar();
@@ -156,12 +165,27 @@ private slots:
         const QByteArray arquivo = escreve(id, pasta.path());
         QVERIFY(!arquivo.isEmpty());
 
-        const QStringList r = registrosInsumos(arquivo);
+        const QStringList todos = registrosInsumos(arquivo);
         QStringList tipos;
-        for (const QString& l : r)
+        QStringList r;
+        for (const QString& l : todos) {
             tipos << l.left(2);
-        // Per product: 31, then for each input a 32 and a 33 for each destination of the product.
-        QCOMPARE(tipos, (QStringList{t("31"), t("32"), t("33"), t("33"), t("32"), t("33"), t("33"), t("31"), t("32"), t("33")}));
+            if (!l.startsWith(t("35")))
+                r << l;
+        }
+        // Per product: 31, then for each input a 32 and for each destination of the product a 33 and the input's
+        // documents there: the DI of INS1 at the first place goes out under both products that use it.
+        QCOMPARE(tipos, (QStringList{t("31"), t("32"), t("33"), t("35"), t("33"), t("32"), t("33"), t("33"), t("31"),
+                                     t("32"), t("33"), t("35")}));
+        const QString di = todos.at(3);
+        QCOMPARE(di.size(), 133);
+        QCOMPARE(todos.at(11), di);
+        QCOMPARE(de(di, 1, 12), t("35") + DocumentoTeste::numeroDI());
+        QCOMPARE(de(di, 13, 15), zeros(15));
+        QCOMPARE(de(di, 28, 5), t("00102"));
+        QCOMPARE(de(di, 33, 15), t("N00000000500000"));
+        QCOMPARE(de(di, 48, 69), zeros(69));
+        QCOMPARE(de(di, 117, 17), x(t("INS1"), 15) + t("1N"));
         const QString p1 = r.at(0);
         QCOMPARE(p1.size(), 187);
         QCOMPARE(de(p1, 1, 5), t("31000"));
@@ -208,6 +232,10 @@ private slots:
         BancoTeste::executa(t("DELETE FROM VRT"));
         QCOMPARE(BancoTeste::conta(t("INSUMO_ITEM_VRT_MEN")), 0);
         QVERIFY(importa(arquivo, pasta.path()));
+        // Each record 35 read makes a row: the DI written under both products of the input comes back twice.
+        QCOMPARE(BancoTeste::conta(t("ITEM_DI_INS_MEN"), t("CD_INT_INSUMO = 'INS1' AND CD_LOCAL_DESTINO = '1' AND NR_DI = ?"),
+                                   {DocumentoTeste::numeroDI()}),
+                 2);
         abrePeloEscolhedor(a);
         QVERIFY(a.editor());
         a.vaiParaAba(3);
@@ -228,6 +256,8 @@ private slots:
         QCOMPARE(a.campo<QLineEdit>(t("mskPIsemPPB(0)"))->text(), t("8,50000"));
         a.escolhe(t("cboLocalDestinoInsumo"), Local1);
         QCOMPARE(a.campo<QLineEdit>(t("txtQuantidadeTotalInsumo"))->text(), t("11,00000"));
+        a.clica(t("optDI_tabPIsemPPB"));
+        QCOMPARE(a.campo<ConsultGrid>(t("grdConsultaDI_tabPIsemPPB"))->dataRowCount(), 2);
         a.fechar();
         QCOMPARE(a.msgs.inesperadas, 0);
     }
