@@ -13,6 +13,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -39,15 +40,25 @@ AbaPIsemPPB::AbaPIsemPPB(const ContextoItens& contexto, QWidget* parent)
     m_produto->constroi(paginaProduto);
     CamposItem::registraDestinos(*m_produto);
     tabPIsemPPB->addTab(paginaProduto, QStringLiteral("Produto"));
-    tabPIsemPPB->addTab(paginaInsumos(), QStringLiteral("Insumos"));
+    tabPIsemPPB->addTab(rolagem(paginaInsumos()), QStringLiteral("Insumos"));
 
     documentos = new PaginaDocumentosInsumo(ind, idVrt, [this] { return pai().toLongLong(); }, this);
     documentos->setObjectName(QStringLiteral("tabPIsemPPB(2)"));
-    tabPIsemPPB->addTab(documentos, QStringLiteral("Documentos de Origem"));
+    tabPIsemPPB->addTab(rolagem(documentos), QStringLiteral("Documentos de Origem"));
     corpo()->addWidget(tabPIsemPPB, 1);
 
     connect(tabPIsemPPB, &QTabWidget::currentChanged, this, &AbaPIsemPPB::trocaPagina);
     connect(documentos, &PaginaDocumentosInsumo::voltaProduto, this, &AbaPIsemPPB::volta);
+}
+
+// The two taller pages scroll, so that they do not make the editor taller than the main window.
+QWidget* AbaPIsemPPB::rolagem(QWidget* pagina)
+{
+    auto* area = new QScrollArea(this);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setWidget(pagina);
+    return area;
 }
 
 QWidget* AbaPIsemPPB::paginaInsumos()
