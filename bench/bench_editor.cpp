@@ -1,4 +1,5 @@
-// Times the monthly editor on a large declaration: 10,000 items (national, two destinations each) and a full
+// Times the monthly editor on a large declaration: 10,000 items (national, two destinations each), 1,000 products
+// without basic process (two destinations and three inputs each, the inputs shared by many products) and a full
 // values tab (every modality and type of both tables). Opening runs as the chooser's Abrir does (AbreTela and
 // FuncaoForm 2) until the editor is shown; saving is the main window's Salvar after a write. Prints the times
 // of several runs; never fails on time.
@@ -27,6 +28,42 @@ using namespace modBancoDados;
 
 const QString Id = QStringLiteral("00001/09");
 const int Itens = 10000;
+const int ItensSemPPB = 1000;
+
+// Products without basic process, each at two places with three inputs out of 300 codes.
+void montaSemPPB()
+{
+    QSqlQuery item(ConexaoBanco());
+    item.prepare(QStringLiteral("INSERT INTO ITEM_VRT_MEN (ID_VRT_MICRO, CD_INT_PRODUTO, NM_INT_PRODUTO, "
+                                "CD_NCM_PRODUTO, NM_UNID_MED_PROD, IND_MOD_INTERNACAO) VALUES (?, ?, 'Produto', "
+                                "'17019900', 'KG', '3')"));
+    QSqlQuery destino(ConexaoBanco());
+    destino.prepare(QStringLiteral("INSERT INTO DESTINO_ITEM_VRT_MEN (ID_ITEM_VRT, CD_LOCAL_DESTINO, QT_PROD_LOC_DEST) "
+                                   "VALUES (?, ?, '2,00000')"));
+    QSqlQuery insumo(ConexaoBanco());
+    insumo.prepare(QStringLiteral("INSERT INTO INSUMO_ITEM_VRT_MEN (ID_ITEM_VRT, CD_INT_INSUMO, NM_INT_INSUMO, "
+                                  "CD_NCM_INSUMO, QT_INSUMO_POR_PROD, NM_UNID_MED_INSUMO) VALUES (?, ?, 'Insumo', "
+                                  "'17019900', '0,50000', 'KG')"));
+    for (int i = 0; i < ItensSemPPB; ++i) {
+        item.bindValue(0, Id);
+        item.bindValue(1, QStringLiteral("S%1").arg(i));
+        item.exec();
+        const QVariant chave = item.lastInsertId();
+        for (const char* local : {"1", "2"}) {
+            destino.bindValue(0, chave);
+            destino.bindValue(1, QLatin1String(local));
+            destino.exec();
+        }
+        for (int k = 0; k < 3; ++k) {
+            insumo.bindValue(0, chave);
+            insumo.bindValue(1, QStringLiteral("I%1").arg((i + k * 100) % 300));
+            insumo.exec();
+        }
+    }
+    ExecutaSql(QStringLiteral("INSERT INTO NCM_VRT (ID_VRT_MICRO, IN_MOD_INTERNACAO, CD_NCM_PRODUTO, QT_TOTAL_NCM) "
+                              "VALUES (?, '3', '17019900', '0')"),
+               {Id});
+}
 
 void monta()
 {
@@ -55,6 +92,7 @@ void monta()
             destino.exec();
         }
     }
+    montaSemPPB();
     for (int indice = 0; indice < 2; ++indice) {
         const DescricaoBloco d = BlocosValores::Descricao(indice, [] { return true; });
         for (const OpcaoLista& m : BlocosValores::Modalidades(indice, true))

@@ -11,6 +11,7 @@
 #include "gui/blocks/QuatroBotoes.h"
 #include "gui/widgets/TextField.h"
 
+#include <QCheckBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHeaderView>
@@ -77,6 +78,10 @@ QWidget* ExecutorBloco::criaCampo(const CampoBloco& c, QWidget* pai)
         break;
     case CampoBloco::Texto:
         w = new TextField(c.nome, c.largura, pai);
+        break;
+    case CampoBloco::Marca:
+        w = new QCheckBox(pai);
+        w->setObjectName(c.nome);
         break;
     }
     if (c.larguraTela > 0)
@@ -234,6 +239,8 @@ void ExecutorBloco::limpa()
         QWidget* w = m_campos.value(c.nome);
         if (auto* lista = qobject_cast<QComboBox*>(w))
             lista->setCurrentIndex(-1);
+        else if (auto* marca = qobject_cast<QCheckBox*>(w))
+            marca->setChecked(false);
         else if (auto* edit = qobject_cast<QLineEdit*>(w))
             edit->clear();
     }
@@ -341,6 +348,9 @@ void ExecutorBloco::preencheCampo(const CampoBloco& c, const QString& valor, con
     case CampoBloco::Ncm:
         static_cast<MaskedField*>(w)->setDigits(valor);
         break;
+    case CampoBloco::Marca:
+        static_cast<QCheckBox*>(w)->setChecked(!valor.isEmpty() && valor != QLatin1String("0"));
+        break;
     default:
         static_cast<QLineEdit*>(w)->setText(valor);
         break;
@@ -380,6 +390,8 @@ QVariant ExecutorBloco::valorCampo(const CampoBloco& c) const
     case CampoBloco::Mascara:
     case CampoBloco::Ncm:
         return static_cast<MaskedField*>(w)->digits();
+    case CampoBloco::Marca:
+        return static_cast<QCheckBox*>(w)->isChecked() ? QStringLiteral("1") : QString();
     default:
         return static_cast<QLineEdit*>(w)->text();
     }
@@ -514,7 +526,8 @@ void ExecutorBloco::excluir()
         recusa(m_d.msgSemSelecao, m_botoes->cmdExcluir);
         return;
     }
-    if (MsgBox(QStringLiteral("Deseja realmente excluir?"), Msg::YesNo | Msg::Information) != Msg::Yes)
+    const QString pergunta = m_d.perguntaExcluir ? m_d.perguntaExcluir(*this) : QStringLiteral("Deseja realmente excluir?");
+    if (MsgBox(pergunta, Msg::YesNo | Msg::Information) != Msg::Yes)
         return;
     modVRTPLN::AlteracaoPendente = true;
     if (m_d.apaga)

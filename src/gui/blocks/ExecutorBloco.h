@@ -37,8 +37,9 @@ class QWidget;
 
 struct CampoBloco {
     // Ncm: an NcmField whose `alvos` are its description and statistical unit fields; Produto: a
-    // ProductCodeField whose `alvos` name its description field.
-    enum Tipo { Lista, Decimal, Digitos, Mascara, Texto, Ncm, Produto };
+    // ProductCodeField whose `alvos` name its description field. Marca: a check box, "1" when set and "" when
+    // not; loading a row sets it when its column is neither empty nor "0".
+    enum Tipo { Lista, Decimal, Digitos, Mascara, Texto, Ncm, Produto, Marca };
     QString nome;          // objectName, and member name in the tab
     QString rotulo;        // the label above it
     Tipo tipo = Texto;
@@ -101,6 +102,8 @@ struct DescricaoBloco {
     std::function<QList<QStringList>(const QVariant& pai)> linhas;
     // Writes the fields for Incluir or Alterar (AlteracaoPendente is already set), instead of the one row.
     std::function<void(const ExecutorBloco& bloco, const QVariant& pai, Operacao op)> grava;
+    // The question Excluir asks before deleting, instead of "Deseja realmente excluir?".
+    std::function<QString(const ExecutorBloco& bloco)> perguntaExcluir;
     // Deletes the chosen row's rows after the confirmation, instead of the one row.
     std::function<void(const ExecutorBloco& bloco, const QVariant& pai)> apaga;
     // A picker button was clicked: shows the picker for the field (the focus then goes back to the button).

@@ -2,6 +2,7 @@
 
 #include "gui/items/AbaNacional.h"
 #include "gui/items/AbaPIcomPPB.h"
+#include "gui/items/AbaPIsemPPB.h"
 #include "gui/items/AbaProdutoEstrangeiro.h"
 
 AbaItens* CriaAbaItens(int indice, const ContextoItens& contexto, QWidget* parent)
@@ -11,6 +12,8 @@ AbaItens* CriaAbaItens(int indice, const ContextoItens& contexto, QWidget* paren
         return new AbaProdutoEstrangeiro(contexto, parent);
     case 2:
         return new AbaPIcomPPB(contexto, parent);
+    case 3:
+        return new AbaPIsemPPB(contexto, parent);
     case 4:
         return new AbaNacional(contexto, parent);
     default:

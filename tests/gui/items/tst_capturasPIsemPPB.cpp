@@ -1,0 +1,75 @@
+// Pictures of the three pages of the tab "PI sem PPB" for the help page, taken offscreen at 1024×768 from the real
+// screens with sample products and inputs. They go to <build>/capturas/ajuda; with VRT_ATUALIZA_AJUDA=1 in the
+// environment they also replace those in help/img.
+#include "ItensTeste.h"
+
+#include <QCheckBox>
+#include <QDir>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QTabWidget>
+
+using namespace ItensTeste;
+
+namespace {
+
+void salva(Ambiente& a, const QString& nome)
+{
+    QTest::qWait(50);
+    QVERIFY(a.janela.mdiArea()->activeSubWindow());
+    const QPixmap imagem = a.janela.grab();
+    const QString pasta = QStringLiteral(VRT_BINARY_DIR "/capturas/ajuda");
+    QDir().mkpath(pasta);
+    QVERIFY(imagem.save(pasta + QLatin1Char('/') + nome));
+    if (qEnvironmentVariableIntValue("VRT_ATUALIZA_AJUDA") == 1)
+        QVERIFY(imagem.save(QStringLiteral(VRT_SOURCE_DIR "/help/img/") + nome));
+}
+
+void produto(Ambiente& a, const QString& codigo, const QString& local, const QString& qt)
+{
+    a.digita(QStringLiteral("mskNumNCM_TabPIsemPPB"), Ncm1);
+    a.digita(QStringLiteral("txtCodProdPIsemPPB"), codigo);
+    a.escolhe(QStringLiteral("cboUnidadePIsemPPB"), QStringLiteral("UN"));
+    a.escolhe(QStringLiteral("cboLocalPIsemPPB"), local);
+    a.digita(QStringLiteral("mskPIsemPPB(3)"), qt);
+    a.sai(QStringLiteral("cmdIncluir_tabPIsemPPB_CCI"));
+    a.clica(QStringLiteral("cmdIncluir_tabPIsemPPB_CCI"));
+}
+
+}  // namespace
+
+class tst_capturasPIsemPPB : public QObject {
+    Q_OBJECT
+private slots:
+    void paginasDaDeclaracaoMensal()
+    {
+        Ambiente a;
+        a.janela.resize(1024, 768);
+        naAba(a, false, 3);
+        BancoTeste::executa(QStringLiteral("INSERT INTO PRODUTO (CD_INT_PRODUTO, NM_INT_PRODUTO) VALUES ('INS1', 'Chapa de aço')"));
+        produto(a, QStringLiteral("P001"), QStringLiteral("Estados AC, AM, RO e RR"), QStringLiteral("10"));
+        produto(a, QStringLiteral("P001"), QStringLiteral("Demais Unidades da Federação"), QStringLiteral("4"));
+        produto(a, QStringLiteral("P002"), QStringLiteral("Estados AC, AM, RO e RR"), QStringLiteral("3"));
+        salva(a, QStringLiteral("abaPIsemPPB_produto.png"));
+        auto* paginas = a.campo<QTabWidget>(QStringLiteral("tabPIsemPPB"));
+        paginas->setCurrentIndex(1);
+        a.escolhe(QStringLiteral("cboDocProdutoPIsemPPB"), QStringLiteral("P001"));
+        a.digita(QStringLiteral("mskNumNCMInsumo"), Ncm2);
+        a.digita(QStringLiteral("txtCodInsPIsemPPB"), QStringLiteral("INS1"));
+        a.escolhe(QStringLiteral("cboUnidadeInsumo"), QStringLiteral("UN"));
+        a.digita(QStringLiteral("mskPIsemPPB(4)"), QStringLiteral("0,5"));
+        a.sai(QStringLiteral("cmdIncluirInsumo"));
+        a.clica(QStringLiteral("cmdIncluirInsumo"));
+        a.campo<QCheckBox>(QStringLiteral("chk_Aliquota_tabPIsemPPB"))->setChecked(true);
+        salva(a, QStringLiteral("abaPIsemPPB_insumos.png"));
+        paginas->setCurrentIndex(2);
+        a.escolhe(QStringLiteral("cboCCIInsumoPIsemPPB"), QStringLiteral("INS1"));
+        a.escolhe(QStringLiteral("cboLocalDestinoInsumo"), QStringLiteral("Estados AC, AM, RO e RR"));
+        a.clica(QStringLiteral("optDI_tabPIsemPPB"));
+        salva(a, QStringLiteral("abaPIsemPPB_documentos.png"));
+        QCOMPARE(a.msgs.inesperadas, 0);
+    }
+};
+
+QTEST_MAIN(tst_capturasPIsemPPB)
+#include "tst_capturasPIsemPPB.moc"
