@@ -1,5 +1,7 @@
-// Times the monthly editor on a large declaration: 10,000 items (national, two destinations each), 1,000 products
-// without basic process (two destinations and three inputs each, the inputs shared by many products) and a full
+// Times the monthly editor on a large declaration: 10,000 national items (two destinations each), a thousand
+// items with basic process and a thousand foreign products (two destinations each, a DI on each destination of the
+// foreign products), 1,000 products without basic process (two destinations and three inputs each, the inputs
+// shared by many products) and a full
 // values tab (every modality and type of both tables). Opening runs as the chooser's Abrir does (AbreTela and
 // FuncaoForm 2) until the editor is shown; saving is the main window's Salvar after a write. Prints the times
 // of several runs; never fails on time.
@@ -64,6 +66,8 @@ void montaSemPPB()
                               "VALUES (?, '3', '17019900', '0')"),
                {Id});
 }
+// Items of each other modality, each with two destinations; the foreign products with a DI on each destination.
+const int ItensOutros = 1000;
 
 void monta()
 {
@@ -90,6 +94,42 @@ void monta()
             destino.bindValue(0, chave);
             destino.bindValue(1, QLatin1String(local));
             destino.exec();
+        }
+    }
+    QSqlQuery outro(ConexaoBanco());
+    outro.prepare(QStringLiteral("INSERT INTO ITEM_VRT_MEN (ID_VRT_MICRO, CD_INT_PRODUTO, NM_INT_PRODUTO, "
+                                 "CD_NCM_PRODUTO, NM_UNID_MED_PROD, IND_MOD_INTERNACAO, QT_PROD_UNID_EST, "
+                                 "QT_PROD_UNID_PROD) VALUES (?, ?, 'Produto', '17019900', 'KG', ?, '1,00000', "
+                                 "'1234,50000')"));
+    QSqlQuery ppb(ConexaoBanco());
+    ppb.prepare(QStringLiteral("INSERT INTO ITEM_VRT_MEN_PI_COM_PPB (ID_ITEM_VRT, NR_DCRE_DCR, CD_TIPO_COEF_REDUCAO) "
+                               "VALUES (?, ?, '2')"));
+    QSqlQuery di(ConexaoBanco());
+    di.prepare(QStringLiteral("INSERT INTO ITEM_DI_PE_MEN (ID_DEST_PRODUTO, NR_DI, NR_DI_ANTIGA, NR_ADICAO_DI, "
+                              "NR_ITEM_ADICAO, IND_DL_288_67, IND_OBSOLE_RESIDUO, QT_PROD_UNID_PROD, "
+                              "QT_PROD_UNID_EST, IND_SUSP_PIS_COFINS) VALUES (?, '0912345678', '', '001', '01', 'N', "
+                              "'N', '1,00000', '1,00000', 'N')"));
+    for (const char* modalidade : {"1", "2"}) {
+        for (int i = 0; i < ItensOutros; ++i) {
+            outro.bindValue(0, Id);
+            outro.bindValue(1, QStringLiteral("M%1P%2").arg(QLatin1String(modalidade)).arg(i));
+            outro.bindValue(2, QLatin1String(modalidade));
+            outro.exec();
+            const QVariant chave = outro.lastInsertId();
+            if (modalidade == QLatin1String("2")) {
+                ppb.bindValue(0, chave);
+                ppb.bindValue(1, QStringLiteral("2009%1").arg(i + 1, 5, 10, QLatin1Char('0')));
+                ppb.exec();
+            }
+            for (const char* local : {"1", "2"}) {
+                destino.bindValue(0, chave);
+                destino.bindValue(1, QLatin1String(local));
+                destino.exec();
+                if (modalidade != QLatin1String("1"))
+                    continue;
+                di.bindValue(0, destino.lastInsertId());
+                di.exec();
+            }
         }
     }
     montaSemPPB();
@@ -153,7 +193,12 @@ int main(int argc, char** argv)
     monta();
     const int valores = ValorUnico(QStringLiteral("SELECT (SELECT COUNT(*) FROM VALORES_DIVER_MANDADO) + "
                                                   "(SELECT COUNT(*) FROM VALORES_DIVER_RETIF)")).toInt();
-    std::printf("Declaração mensal com %d itens e %d valores\n", Itens, valores);
+    const QString porModalidade = ValorUnico(QStringLiteral(
+        "SELECT GROUP_CONCAT(N, ', ') FROM (SELECT IND_MOD_INTERNACAO || ': ' || COUNT(*) AS N FROM ITEM_VRT_MEN "
+        "GROUP BY IND_MOD_INTERNACAO)")).toString();
+    const int documentos = ValorUnico(QStringLiteral("SELECT COUNT(*) FROM ITEM_DI_PE_MEN")).toInt();
+    std::printf("Declaração mensal com %d itens (por modalidade %s), %d DI e %d valores\n", Itens + 3 * ItensOutros,
+                qPrintable(porModalidade), documentos, valores);
 
     RegistraTelas();
     frmVRTPLN janela;

@@ -1,5 +1,6 @@
 #include "core/store/BlocoEntrada.h"
 
+#include "core/store/ComandoSqlite.h"
 #include "core/store/modBancoDados.h"
 
 #include <QSqlQuery>
@@ -71,16 +72,15 @@ namespace Bloco {
 
 QList<QStringList> Linhas(const BlocoEntrada& b, const QVariant& pai, const QStringList& colunasGrade)
 {
-    QSqlQuery rs(ConexaoBanco());
-    rs.setForwardOnly(true);
-    AbreConsulta(rs, b.sqlConsulta(colunasGrade), {pai});
+    ComandoSqlite rs(b.sqlConsulta(colunasGrade));
+    rs.abre({pai});
     QList<QStringList> linhas;
     const int n = colunasGrade.size();
-    while (rs.next()) {
+    while (rs.proxima()) {
         QStringList linha;
         linha.reserve(n);
         for (int i = 0; i < n; ++i)
-            linha << rs.value(i).toString();
+            linha << rs.texto(i);
         linhas << linha;
     }
     return linhas;

@@ -174,6 +174,11 @@ QVariant ComandoSqlite::valor(int coluna) const
     }
 }
 
+int ComandoSqlite::colunas() const
+{
+    return sqlite3_column_count(m_stmt);
+}
+
 QString ComandoSqlite::texto(int coluna) const
 {
     switch (sqlite3_column_type(m_stmt, coluna)) {

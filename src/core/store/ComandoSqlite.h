@@ -44,6 +44,8 @@ public:
     // The same as valor(coluna).toString(), without the QVariant.
     QString texto(int coluna) const;
     qint64 inteiro(int coluna) const;
+    // How many columns the statement gives.
+    int colunas() const;
 
     // Key that the engine gave the last row inserted on this connection, or an invalid QVariant (no row yet).
     QVariant ultimaChave() const;

@@ -1,5 +1,6 @@
 #include "core/store/ItensDeclaracao.h"
 
+#include "core/store/ComandoSqlite.h"
 #include "core/store/modBancoDados.h"
 
 #include <QSqlQuery>
@@ -72,16 +73,16 @@ bool NumeroItemUsado(qint64 idNfs, const QString& numero)
 
 QList<QStringList> Linhas(const QString& sql, const QVariantList& valores)
 {
-    QSqlQuery rs(ConexaoBanco());
-    rs.setForwardOnly(true);
-    AbreConsulta(rs, sql, valores);
+    // Through the engine's own interface: a grid of ten thousand rows is read without a QVariant per cell.
+    ComandoSqlite rs(sql);
+    rs.abre(valores);
     QList<QStringList> linhas;
-    const int n = rs.record().count();
-    while (rs.next()) {
+    const int n = rs.colunas();
+    while (rs.proxima()) {
         QStringList linha;
         linha.reserve(n);
         for (int i = 0; i < n; ++i)
-            linha << rs.value(i).toString();
+            linha << rs.texto(i);
         linhas << linha;
     }
     return linhas;

@@ -196,30 +196,67 @@ int ExecutorBloco::colunaDaGrade(const QString& coluna) const
     return -1;
 }
 
-void ExecutorBloco::carrega()
+QList<QStringList> ExecutorBloco::linhasDaGrade() const
 {
     QList<QStringList> linhas;
     const QVariant pai = m_pai();
-    if (!pai.toString().isEmpty() && pai.toString() != QLatin1String("0")) {
-        linhas = m_d.linhas ? m_d.linhas(pai) : Bloco::Linhas(m_d.dados, pai, colunasConsulta());
-        for (QStringList& l : linhas) {
-            for (int i = 0; i < l.size() && i < m_d.colunasGrade.size(); ++i) {
-                const ColunaGrade& g = m_d.colunasGrade.at(i);
-                if (g.exibe)
-                    l[i] = g.exibe(l.at(i));
-                else if (!g.formato.isEmpty())
-                    l[i] = Funcoes::Formata(l.at(i), g.formato);
-            }
-            l.prepend(QString());
+    if (pai.toString().isEmpty() || pai.toString() == QLatin1String("0"))
+        return linhas;
+    linhas = m_d.linhas ? m_d.linhas(pai) : Bloco::Linhas(m_d.dados, pai, colunasConsulta());
+    for (QStringList& l : linhas) {
+        for (int i = 0; i < l.size() && i < m_d.colunasGrade.size(); ++i) {
+            const ColunaGrade& g = m_d.colunasGrade.at(i);
+            if (g.exibe)
+                l[i] = g.exibe(l.at(i));
+            else if (!g.formato.isEmpty())
+                l[i] = Funcoes::Formata(l.at(i), g.formato);
         }
+        l.prepend(QString());
     }
-    m_grade->setRows(linhas);
-    // The first row is current, for the cursor keys, but nothing is chosen: with Alterar and Excluir off no row
-    // may look chosen either.
+    return linhas;
+}
+
+void ExecutorBloco::carrega()
+{
+    m_grade->setRows(linhasDaGrade());
+    semEscolha();
+}
+
+// The first row is current, for the cursor keys, but nothing is chosen: with Alterar and Excluir off no row may
+// look chosen either.
+void ExecutorBloco::semEscolha()
+{
     m_grade->clearHighlight();
     m_chave.clear();
     m_linha = -1;
     m_botoes->habilitaSelecao(false);
+}
+
+// After a write the rows are read again, but only those that differ from the grid's are put in, replaced or
+// taken out, each at its place: the grid ends as a load leaves it, without filling thousands of rows again.
+void ExecutorBloco::atualizaGrade()
+{
+    const QList<QStringList> novas = linhasDaGrade();
+    const int antigas = m_grade->dataRowCount();
+    const int total = int(novas.size());
+    int inicio = 0;
+    while (inicio < antigas && inicio < total && m_grade->rowValues(inicio) == novas.at(inicio))
+        ++inicio;
+    int fim = 0;
+    while (fim < antigas - inicio && fim < total - inicio
+           && m_grade->rowValues(antigas - 1 - fim) == novas.at(total - 1 - fim))
+        ++fim;
+    const int saem = antigas - inicio - fim;
+    const int entram = total - inicio - fim;
+    const int trocadas = qMin(saem, entram);
+    for (int i = 0; i < trocadas; ++i)
+        m_grade->replaceRow(inicio + i, novas.at(inicio + i));
+    for (int i = trocadas; i < saem; ++i)
+        m_grade->removeRowAt(inicio + trocadas);
+    for (int i = trocadas; i < entram; ++i)
+        m_grade->insertRowAt(inicio + i, novas.at(inicio + i));
+    m_grade->makeFirstCurrent();
+    semEscolha();
 }
 
 void ExecutorBloco::esqueceEscolha()
@@ -463,7 +500,7 @@ void ExecutorBloco::incluir()
             m_d.grava(*this, m_pai(), Operacao::Incluir);
         else
             Bloco::Insere(m_d.dados, m_pai(), valoresDosCampos());
-        carrega();
+        atualizaGrade();
         limpa();
         if (m_d.depois)
             m_d.depois(*this, Operacao::Incluir);
@@ -477,7 +514,7 @@ void ExecutorBloco::incluir()
     }
     modVRTPLN::AlteracaoPendente = true;
     Bloco::Insere(m_d.dados, m_pai(), valoresDosCampos());
-    carrega();
+    atualizaGrade();
     limpa();
 }
 
@@ -495,7 +532,7 @@ void ExecutorBloco::alterar()
             m_d.grava(*this, m_pai(), Operacao::Alterar);
         else
             Bloco::Altera(m_d.dados, m_pai(), m_chave, valoresDosCampos());
-        carrega();
+        atualizaGrade();
         limpa();
         if (m_d.depois)
             m_d.depois(*this, Operacao::Alterar);
@@ -516,7 +553,7 @@ void ExecutorBloco::alterar()
     }
     modVRTPLN::AlteracaoPendente = true;
     Bloco::Altera(m_d.dados, m_pai(), m_chave, valoresDosCampos());
-    carrega();
+    atualizaGrade();
     limpa();
 }
 
@@ -535,7 +572,7 @@ void ExecutorBloco::excluir()
     else
         Bloco::Exclui(m_d.dados, m_pai(), m_chave);
     limpa();
-    carrega();
+    atualizaGrade();
 }
 
 void ExecutorBloco::limpar()

@@ -196,6 +196,10 @@ signals:
 private:
     QWidget* criaCampo(const CampoBloco& c, QWidget* pai);
     void escolheLinha(int linha);
+    // The grid's rows as a load shows them (formatted, with the blank first cell).
+    QList<QStringList> linhasDaGrade() const;
+    void atualizaGrade();
+    void semEscolha();
     void preencheCampo(const CampoBloco& c, const QString& valor, const QString& texto);
     bool validaCampos();
     QVariantList chaveDosCampos() const;

@@ -79,10 +79,16 @@ ExecutorBloco* AbaPIcomPPB::blocoEscolhido() const
 
 void AbaPIcomPPB::escolhe(bool dcr)
 {
+    mostra(dcr);
+    blocoEscolhido()->carrega();
+}
+
+// The option's frame and grid shown, the other's hidden; the grids are left as they are.
+void AbaPIcomPPB::mostra(bool dcr)
+{
     (dcr ? optDCR : optDCRE)->setChecked(true);
     m_areaDcr->setVisible(dcr);
     m_areaDcre->setVisible(!dcr);
-    blocoEscolhido()->carrega();
 }
 
 void AbaPIcomPPB::carrega()
@@ -91,12 +97,13 @@ void AbaPIcomPPB::carrega()
     const bool temDcr = m_dcr->temLinhas();
     m_dcre->carrega();
     const bool temDcre = m_dcre->temLinhas();
+    // Both grids were just loaded: choosing the option only shows one of them.
     if (individual())
-        escolhe(!(temDcre && !temDcr));
+        mostra(!(temDcre && !temDcr));
     else if (temDcre)
-        escolhe(false);
+        mostra(false);
     else if (temDcr)
-        escolhe(true);
+        mostra(true);
 }
 
 void AbaPIcomPPB::repopula()
@@ -105,7 +112,6 @@ void AbaPIcomPPB::repopula()
         b->carrega();
         b->limpa();
     }
-    blocoEscolhido()->carrega();
 }
 
 void AbaPIcomPPB::aoEntrar()

@@ -28,6 +28,7 @@ public:
 private:
     // HabilitaControlesDependentes_optDCR... / _optDCRE...: shows the option's frames, hides the other's.
     void escolhe(bool dcr);
+    void mostra(bool dcr);
 
     ExecutorBloco* m_dcr = nullptr;
     ExecutorBloco* m_dcre = nullptr;

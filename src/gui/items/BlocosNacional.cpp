@@ -54,7 +54,7 @@ DescricaoBloco Mensal()
         {QStringLiteral("ID_ITEM_VRT"), QStringLiteral("ID_ITEM_VRT"), 0, {}},
         {QStringLiteral("Código do produto"), QStringLiteral("CD_INT_PRODUTO"), 120, {}},
         {QStringLiteral("Descrição"), QStringLiteral("NM_INT_PRODUTO"), 307, {}},
-        {QStringLiteral("Quantidade"), QStringLiteral("QT_PROD_UNID_PROD"), 107, {}},
+        {QStringLiteral("Quantidade"), QStringLiteral("QT_PROD_UNID_PROD"), 107, Quantidade},
         {QStringLiteral("NCM"), QStringLiteral("CD_NCM_PRODUTO"), 104, QStringLiteral("@@@@.@@.@@")},
         {QStringLiteral("NM_UNID_MED_PROD"), QStringLiteral("NM_UNID_MED_PROD"), 0, {}},
         {QStringLiteral("QT_PROD_UNID_EST"), QStringLiteral("QT_PROD_UNID_EST"), 0, {}},
@@ -145,7 +145,7 @@ DescricaoBloco Individual()
     d.colunasGrade = {
         {QStringLiteral("Item"), QStringLiteral("NR_ITEM_NF_SAIDA"), 63, {}},
         {QStringLiteral("Código do Produto"), QStringLiteral("CD_INT_PROD"), 127, {}},
-        {QStringLiteral("Quantidade"), QStringLiteral("QT_INT_UNID_NFS"), 97, {}},
+        {QStringLiteral("Quantidade"), QStringLiteral("QT_INT_UNID_NFS"), 97, Quantidade},
         {QStringLiteral("NCM"), QStringLiteral("CD_NCM_PROD"), 100, QStringLiteral("@@@@.@@.@@")},
         {QStringLiteral("NM_UNID_MED_PROD"), QStringLiteral("NM_UNID_MED_PROD"), 0, {}},
         {QStringLiteral("VL_INT_UNID_NFS"), QStringLiteral("VL_INT_UNID_NFS"), 0, {}},

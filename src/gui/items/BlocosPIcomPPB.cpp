@@ -384,7 +384,7 @@ QList<ColunaGrade> colunas(const Nomes& n)
       << ColunaGrade{QStringLiteral("Descrição do produto"), n.colDescricao, 212, {}};
     if (!n.individual)
         c << ColunaGrade{QStringLiteral("Local"), QStringLiteral("NM_LOCAL_DESTINO"), 120, {}};
-    c << ColunaGrade{QStringLiteral("Quantidade"), n.colQuantidade, 117, {}};
+    c << ColunaGrade{QStringLiteral("Quantidade"), n.colQuantidade, 117, Quantidade};
     if (!n.individual)
         c << ColunaGrade{QStringLiteral("ID_DEST_PRODUTO"), QStringLiteral("ID_DEST_PRODUTO"), 0, {}}
           << ColunaGrade{QStringLiteral("CD_LOCAL_DESTINO"), QStringLiteral("CD_LOCAL_DESTINO"), 0, {}};
@@ -392,8 +392,9 @@ QList<ColunaGrade> colunas(const Nomes& n)
         c << ColunaGrade{QStringLiteral("VL_II_UNIT_DOLAR"), QStringLiteral("VL_II_UNIT_DOLAR"), 0, {}}
           << ColunaGrade{QStringLiteral("PC_COEF_REDUCAO_II"), QStringLiteral("PC_COEF_REDUCAO_II"), 0, {}}
           << ColunaGrade{n.colUnidade, n.colUnidade, 0, {}};
-    c << ColunaGrade{QStringLiteral("PIS/PASEP"), QStringLiteral("VL_PIS"), 133, {}}
-      << ColunaGrade{QStringLiteral("COFINS"), QStringLiteral("VL_COFINS"), 133, {}};
+    // Values shown as their fields show them.
+    c << ColunaGrade{QStringLiteral("PIS/PASEP"), QStringLiteral("VL_PIS"), 133, ValorUnitario}
+      << ColunaGrade{QStringLiteral("COFINS"), QStringLiteral("VL_COFINS"), 133, ValorUnitario};
     return c;
 }
 

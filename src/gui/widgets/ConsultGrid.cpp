@@ -1,32 +1,13 @@
 #include "gui/widgets/ConsultGrid.h"
 
+#include "gui/widgets/ModeloConsulta.h"
+
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QStyle>
 #include <QTimer>
 
-namespace {
-
-// The value as given is kept for the program; the cell shows it without its trailing blanks, which fixed-width
-// tables store and which would only make the grid elide the text.
-constexpr int ValueRole = Qt::UserRole + 1;
-
-QTableWidgetItem* newItem(const QString& value, Qt::Alignment alignment)
-{
-    qsizetype end = value.size();
-    while (end > 0 && value.at(end - 1) == QLatin1Char(' '))
-        --end;
-    auto* item = new QTableWidgetItem(value.left(end));
-    item->setData(ValueRole, value);
-    // Long texts (NCM descriptions) are elided in their column; the whole text shows on hover.
-    if (end > 40)
-        item->setToolTip(value.left(end));
-    item->setTextAlignment(alignment);
-    return item;
-}
-
-}  // namespace
 
 int ConsultGrid::widthFor(const Column& column) const
 {
@@ -37,8 +18,9 @@ int ConsultGrid::widthFor(const Column& column) const
     return qMax(value, title) + margins;
 }
 
-ConsultGrid::ConsultGrid(QWidget* parent) : QTableWidget(parent)
+ConsultGrid::ConsultGrid(QWidget* parent) : QTableView(parent), m_model(new ModeloConsulta(this))
 {
+    setModel(m_model);
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -52,16 +34,13 @@ ConsultGrid::ConsultGrid(QWidget* parent) : QTableWidget(parent)
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setStretchLastSection(true);
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &ConsultGrid::titleClicked);
-    connect(this, &QTableWidget::currentCellChanged, this,
-            [this](int row, int, int previousRow, int) {
-                if (row != previousRow)
-                    onCurrentChanged(row);
-            });
-    connect(this, &QTableWidget::cellClicked, this, [this](int row, int) {
+    connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex& current, const QModelIndex&) { onCurrentChanged(current.row()); });
+    connect(this, &QAbstractItemView::clicked, this, [this](const QModelIndex& index) {
         if (m_clickNeedsRowChange && !m_rowChangedSinceLoad)
             return;
-        if (!m_filling && row >= 0)
-            emit rowChosen(row);
+        if (!m_filling && index.row() >= 0)
+            emit rowChosen(index.row());
     });
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &ConsultGrid::onSelectionChanged);
     // A wrapping column that changes width (the window resized, the last column stretched) re-fits its rows.
@@ -84,12 +63,12 @@ void ConsultGrid::fitRowHeights()
     for (int r = 0; r < rowCount(); ++r) {
         int height = oneLine;
         for (int c : std::as_const(m_wrapColumns)) {
-            const QTableWidgetItem* it = item(r, c);
+            const QString text = m_model->shown(r, c);
             const int width = columnWidth(c) - margins;
-            if (!it || width <= 0 || metrics.horizontalAdvance(it->text()) <= width)
+            if (width <= 0 || metrics.horizontalAdvance(text) <= width)
                 continue;
             const QRect needed =
-                metrics.boundingRect(QRect(0, 0, width, 1 << 20), Qt::TextWordWrap | Qt::AlignLeft, it->text());
+                metrics.boundingRect(QRect(0, 0, width, 1 << 20), Qt::TextWordWrap | Qt::AlignLeft, text);
             height = qMax(height, needed.height() + oneLine - metrics.height());
         }
         if (rowHeight(r) != height)
@@ -107,11 +86,14 @@ void ConsultGrid::fitRowHeightsLater()
 
 void ConsultGrid::setColumns(const QList<Column>& columns)
 {
-    setColumnCount(columns.size());
     QStringList titles;
-    for (const Column& c : columns)
+    QList<Qt::Alignment> alignment;
+    for (const Column& c : columns) {
         titles << c.title;
-    setHorizontalHeaderLabels(titles);
+        alignment << c.alignment;
+    }
+    m_model->setColumns(titles, alignment);
+    m_order.clear();
     m_wrapColumns.clear();
     for (int i = 0; i < columns.size(); ++i) {
         if (columns.at(i).wrap && columns.at(i).width > 0)
@@ -119,7 +101,6 @@ void ConsultGrid::setColumns(const QList<Column>& columns)
         setColumnHidden(i, columns.at(i).width == 0);
         if (columns.at(i).width > 0)
             setColumnWidth(i, qMax(columns.at(i).width, widthFor(columns.at(i))));
-        horizontalHeaderItem(i)->setData(Qt::UserRole, int(columns.at(i).alignment));
     }
     setWordWrap(!m_wrapColumns.isEmpty());
 }
@@ -128,7 +109,7 @@ void ConsultGrid::clearRows()
 {
     m_rowChangedSinceLoad = false;
     m_filling = true;
-    setRowCount(0);
+    m_model->setRows({});
     m_order.clear();
     m_filling = false;
 }
@@ -136,13 +117,7 @@ void ConsultGrid::clearRows()
 void ConsultGrid::addRow(const QStringList& cells)
 {
     m_filling = true;
-    const int row = rowCount();
-    insertRow(row);
-    for (int c = 0; c < columnCount(); ++c) {
-        setItem(row, c,
-                newItem(c < cells.size() ? cells.at(c) : QString(),
-                        Qt::Alignment(horizontalHeaderItem(c)->data(Qt::UserRole).toInt())));
-    }
+    m_model->insertAt(rowCount(), cells);
     m_filling = false;
     fitRowHeightsLater();
 }
@@ -152,37 +127,92 @@ void ConsultGrid::setRows(const QList<QStringList>& rows)
     m_rowChangedSinceLoad = false;
     m_filling = true;
     setUpdatesEnabled(false);
-    clearSelection();
-    setRowCount(0);
     m_order.clear();
-    setRowCount(rows.size());
-    const int columns = columnCount();
-    QList<Qt::Alignment> alignment;
-    for (int c = 0; c < columns; ++c)
-        alignment << Qt::Alignment(horizontalHeaderItem(c)->data(Qt::UserRole).toInt());
-    for (int r = 0; r < rows.size(); ++r) {
-        const QStringList& cells = rows.at(r);
-        for (int c = 0; c < columns; ++c) {
-            setItem(r, c, newItem(c < cells.size() ? cells.at(c) : QString(), alignment.at(c)));
-        }
-    }
-    if (!rows.isEmpty()) {
-        // The first row becomes current and highlighted; on a grid of several picks it is the one picked.
-        int column = 0;
-        while (column < columns - 1 && isColumnHidden(column))
-            ++column;
-        const QModelIndex first = model()->index(0, column);
-        selectionModel()->setCurrentIndex(first, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    }
+    m_model->setRows(rows);
+    makeFirstCurrent();
     fitRowHeights();
     setUpdatesEnabled(true);
     m_filling = false;
 }
 
+void ConsultGrid::insertRowAt(int row, const QStringList& cells)
+{
+    m_filling = true;
+    m_model->insertAt(row, cells);
+    m_filling = false;
+    fitRowHeightsLater();
+}
+
+void ConsultGrid::replaceRow(int row, const QStringList& cells)
+{
+    m_model->replaceAt(row, cells);
+    fitRowHeightsLater();
+}
+
+void ConsultGrid::removeRowAt(int row)
+{
+    m_filling = true;
+    m_model->removeAt(row);
+    m_order.clear();
+    m_filling = false;
+}
+
+void ConsultGrid::makeFirstCurrent()
+{
+    // A grid brought up to date row by row stands as after a load: a click waits for the row to move again.
+    m_rowChangedSinceLoad = false;
+    if (rowCount() == 0)
+        return;
+    // The first row becomes current and highlighted; on a grid of several picks it is the one picked.
+    const bool filling = m_filling;
+    m_filling = true;
+    m_order.clear();
+    int column = 0;
+    while (column < columnCount() - 1 && isColumnHidden(column))
+        ++column;
+    const QModelIndex first = m_model->index(0, column);
+    selectionModel()->setCurrentIndex(first, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    m_filling = filling;
+}
+
+const QStringList& ConsultGrid::rowValues(int row) const
+{
+    return m_model->row(row);
+}
+
+int ConsultGrid::rowCount() const
+{
+    return m_model->rowCount();
+}
+
+int ConsultGrid::columnCount() const
+{
+    return m_model->columnCount();
+}
+
+int ConsultGrid::currentRow() const
+{
+    return currentIndex().row();
+}
+
+void ConsultGrid::setCurrentCell(int row, int column)
+{
+    setCurrentIndex(m_model->index(row, column));
+}
+
+QString ConsultGrid::shownText(int row, int column) const
+{
+    return row >= 0 && row < rowCount() ? m_model->shown(row, column) : QString();
+}
+
+QString ConsultGrid::titleText(int column) const
+{
+    return m_model->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+}
+
 QString ConsultGrid::cellText(int row, int column) const
 {
-    const QTableWidgetItem* it = item(row, column);
-    return it ? it->data(ValueRole).toString() : QString();
+    return row >= 0 && row < rowCount() ? m_model->value(row, column) : QString();
 }
 
 QString ConsultGrid::currentText(int column) const
@@ -259,7 +289,7 @@ void ConsultGrid::keyPressEvent(QKeyEvent* event)
     default:
         break;
     }
-    QTableWidget::keyPressEvent(event);
+    QTableView::keyPressEvent(event);
     // With Shift held the selection goes back to the whole current row (the chooser alone picks several).
     if (!m_multi && (event->modifiers() & Qt::ShiftModifier) && currentRow() >= 0)
         selectOnly(currentRow());
@@ -267,7 +297,7 @@ void ConsultGrid::keyPressEvent(QKeyEvent* event)
 
 void ConsultGrid::mouseReleaseEvent(QMouseEvent* event)
 {
-    QTableWidget::mouseReleaseEvent(event);
+    QTableView::mouseReleaseEvent(event);
     // A drag never selects several rows.
     if (!m_multi && currentRow() >= 0)
         selectOnly(currentRow());
@@ -275,7 +305,7 @@ void ConsultGrid::mouseReleaseEvent(QMouseEvent* event)
 
 void ConsultGrid::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    QTableWidget::mouseDoubleClickEvent(event);
+    QTableView::mouseDoubleClickEvent(event);
     const int row = rowAt(event->position().toPoint().y());
     if (row >= 0 && event->button() == Qt::LeftButton)
         emit rowActivated(row);

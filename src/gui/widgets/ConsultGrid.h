@@ -11,11 +11,15 @@
 //   - a column may wrap its long values: the rows that hold one grow to show it whole.
 // Screens that let the user pick several rows (the declaration chooser) turn on multi-selection; the rows
 // picked are then reported in the order they were picked.
+// The rows live in a plain list of texts (ModeloConsulta), so that a grid of thousands of rows fills at once and
+// a single row can be put in, replaced or taken out without filling the grid again.
 #include <QList>
 #include <QStringList>
-#include <QTableWidget>
+#include <QTableView>
 
-class ConsultGrid : public QTableWidget {
+class ModeloConsulta;
+
+class ConsultGrid : public QTableView {
     Q_OBJECT
 public:
     struct Column {
@@ -42,8 +46,25 @@ public:
     // the one picked, so that what the screen's Ok acts on is what the grid shows.
     void setRows(const QList<QStringList>& rows);
 
+    // One row put in at `row` (the rows after it move down), replaced, or taken out; the current row and the
+    // highlight are left to the caller.
+    void insertRowAt(int row, const QStringList& cells);
+    void replaceRow(int row, const QStringList& cells);
+    void removeRowAt(int row);
+    // The first row current and highlighted, as a fill leaves it; nothing is chosen.
+    void makeFirstCurrent();
+    // A row's values as they were given.
+    const QStringList& rowValues(int row) const;
+
     int dataRowCount() const { return rowCount(); }
+    int rowCount() const;
+    int columnCount() const;
+    int currentRow() const;
+    void setCurrentCell(int row, int column);
     QString cellText(int row, int column) const;
+    // The text a cell shows (its value without trailing blanks), and a column's title.
+    QString shownText(int row, int column) const;
+    QString titleText(int column) const;
     // The text of `column` in the current row; empty when there is no current row.
     QString currentText(int column) const;
     QStringList rowTexts(int row) const;
@@ -86,6 +107,7 @@ private:
     void onSelectionChanged();
     void selectOnly(int row);
 
+    ModeloConsulta* m_model = nullptr;
     bool m_multi = false;
     bool m_enterActivates = false;
     bool m_filling = false;

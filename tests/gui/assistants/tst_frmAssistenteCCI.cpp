@@ -80,8 +80,8 @@ private slots:
             QVERIFY2(!w->isVisible(), qPrintable(w->objectName()));
         QCOMPARE(tela.findChild<ConsultGrid*>(QStringLiteral("grdAssistenteCCI")), tela.grdAssistenteCCI);
         QCOMPARE(codigos(tela.grdAssistenteCCI), (QStringList{"A100", "A200", "B100"}));
-        QCOMPARE(tela.grdAssistenteCCI->horizontalHeaderItem(1)->text(), QStringLiteral("Código"));
-        QCOMPARE(tela.grdAssistenteCCI->horizontalHeaderItem(2)->text(), QStringLiteral("Descrição"));
+        QCOMPARE(tela.grdAssistenteCCI->titleText(1), QStringLiteral("Código"));
+        QCOMPARE(tela.grdAssistenteCCI->titleText(2), QStringLiteral("Descrição"));
         QVERIFY(!modBancoDados::TransacaoAberta());
     }
 

@@ -110,7 +110,7 @@ private slots:
         frmAssistenteVRT tela;
         QCOMPARE(tela.grdAssistenteVRT->rowTexts(linha), esperado);
         for (int c = 0; c < 8; ++c)
-            QCOMPARE(tela.grdAssistenteVRT->horizontalHeaderItem(c)->text(), ListaDeclaracoes::Titulos().at(c));
+            QCOMPARE(tela.grdAssistenteVRT->titleText(c), ListaDeclaracoes::Titulos().at(c));
         QCOMPARE(ListaDeclaracoes::Titulos(),
                  (QStringList{"Identificação", "Internador", "Criação", "Tipo", "Referência Mensal",
                               "Nota Fiscal Individual", "Série Individual", "Situação"}));
@@ -208,11 +208,11 @@ private slots:
         tela.show();
         ConsultGrid* g = tela.grdAssistenteVRT;
         for (int c = 0; c < g->columnCount() - 1; ++c) {
-            const QString valor = g->item(0, c)->text();
+            const QString valor = g->shownText(0, c);
             QVERIFY2(g->columnWidth(c) > g->fontMetrics().horizontalAdvance(valor) + 6, qPrintable(valor));
             QVERIFY2(g->columnWidth(c) > g->horizontalHeader()->fontMetrics().horizontalAdvance(
-                                             g->horizontalHeaderItem(c)->text()),
-                     qPrintable(g->horizontalHeaderItem(c)->text()));
+                                             g->titleText(c)),
+                     qPrintable(g->titleText(c)));
         }
     }
 

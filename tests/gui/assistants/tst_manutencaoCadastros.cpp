@@ -570,7 +570,7 @@ private slots:
         QVERIFY(!c.alterar->isEnabled());
         const int linha = linhaDe(c.grade, QStringLiteral("WWWWWWWWWWWWWWW"));
         QVERIFY(c.grade->columnWidth(AssistenteTabela::ColunaCodigoMostrado)
-                > c.grade->fontMetrics().horizontalAdvance(c.grade->item(linha, 1)->text()));
+                > c.grade->fontMetrics().horizontalAdvance(c.grade->shownText(linha, 1)));
         clicaLinha(c.grade, 0);
         QVERIFY(c.grade->hasFocus());
         QTest::keyClick(c.grade, Qt::Key_Tab);
