@@ -1,9 +1,13 @@
 // Times the declaration file on a monthly declaration of more than 100,000 records (all four modalities,
 // several destinations, entry documents): writing it, checking it with `vrt-cli verificar`, and reading it back
-// into an empty database. Beside it, in the same run, three floors done by the sqlite3 shell:
-//  - the same-schema load: exactly the rows the reading created, dumped as INSERTs, loaded table by table into a copy
-//    of the database as it was before the reading (same schema, foreign keys on, indexes), in one transaction;
-//  - the export: every row of the declaration's tables written out as CSV from the database the writer read;
+// into an empty database. Beside it, in the same run, the floors:
+//  - the same-schema load: exactly the rows the reading created, taken from the read database into memory, then
+//    inserted through one prepared statement per table (SQLite's own interface, values bound as the engine gave
+//    them) into a copy of the database as it was before the reading (same schema, foreign keys on, indexes), in
+//    one transaction: what putting these rows into this schema costs at the least;
+//  - the same load by the sqlite3 shell from files of INSERTs (each statement parsed), as the earlier figures had;
+//  - the export: every row of the declaration's tables written out as CSV by the sqlite3 shell from the database
+//    the writer read;
 //  - the old bare load: as many CSV rows as the file has records into one table without constraints.
 // Prints wall and CPU seconds, the ratios, and peak memory. Never fails on time. An argument scales the
 // declaration (1 is about 100,000 records; 0.01, 0.1, 10 for a scaling table).
@@ -23,6 +27,8 @@
 #include <QTemporaryDir>
 #include <QTextStream>
 #include <cstdio>
+#include <sqlite3.h>
+#include <vector>
 #include <sys/resource.h>
 
 namespace {
@@ -250,6 +256,109 @@ Medida cargaMesmoEsquema(const QString& banco, const QStringList& tabelas, const
     return c.para();
 }
 
+// One value as the engine stored it.
+struct Valor {
+    int tipo = SQLITE_NULL;
+    qint64 inteiro = 0;
+    double real = 0;
+    QByteArray bytes;
+};
+struct LinhasTabela {
+    QString nome;
+    int colunas = 0;
+    std::vector<Valor> valores;  // row after row
+};
+
+sqlite3* abreBanco(const QString& banco)
+{
+    sqlite3* db = nullptr;
+    if (sqlite3_open(QFile::encodeName(banco).constData(), &db) != SQLITE_OK)
+        std::fprintf(stderr, "sqlite3_open falhou em %s\n", qPrintable(banco));
+    return db;
+}
+
+void roda(sqlite3* db, const char* sql)
+{
+    char* erro = nullptr;
+    if (sqlite3_exec(db, sql, nullptr, nullptr, &erro) != SQLITE_OK) {
+        std::fprintf(stderr, "%s: %s\n", sql, erro);
+        sqlite3_free(erro);
+    }
+}
+
+// The rows the reading created (in `lido` and not in `antes`), table by table, parents first.
+std::vector<LinhasTabela> tiraLinhasCriadas(const QString& lido, const QString& antes, const QStringList& tabelas)
+{
+    sqlite3* db = abreBanco(lido);
+    roda(db, QStringLiteral("ATTACH '%1' AS antes").arg(antes).toUtf8().constData());
+    std::vector<LinhasTabela> todas;
+    for (const QString& t : tabelas) {
+        LinhasTabela linhas{t, 0, {}};
+        const QByteArray sql = QStringLiteral("SELECT * FROM main.%1 EXCEPT SELECT * FROM antes.%1").arg(t).toUtf8();
+        sqlite3_stmt* st = nullptr;
+        sqlite3_prepare_v2(db, sql.constData(), -1, &st, nullptr);
+        linhas.colunas = sqlite3_column_count(st);
+        while (sqlite3_step(st) == SQLITE_ROW) {
+            for (int c = 0; c < linhas.colunas; ++c) {
+                Valor v;
+                v.tipo = sqlite3_column_type(st, c);
+                if (v.tipo == SQLITE_INTEGER)
+                    v.inteiro = sqlite3_column_int64(st, c);
+                else if (v.tipo == SQLITE_FLOAT)
+                    v.real = sqlite3_column_double(st, c);
+                else if (v.tipo != SQLITE_NULL)
+                    v.bytes = QByteArray(static_cast<const char*>(sqlite3_column_blob(st, c)), sqlite3_column_bytes(st, c));
+                linhas.valores.push_back(std::move(v));
+            }
+        }
+        sqlite3_finalize(st);
+        if (!linhas.valores.empty())
+            todas.push_back(std::move(linhas));
+    }
+    sqlite3_close(db);
+    return todas;
+}
+
+// The same-schema load at its least: one prepared INSERT per table, every value bound, one transaction.
+Medida cargaPreparada(const QString& banco, const std::vector<LinhasTabela>& todas)
+{
+    Cronometro c;
+    sqlite3* db = abreBanco(banco);
+    roda(db, "PRAGMA foreign_keys = ON");
+    roda(db, "BEGIN");
+    for (const LinhasTabela& t : todas) {
+        QString sql = QStringLiteral("INSERT INTO ") + t.nome + QStringLiteral(" VALUES (?");
+        for (int i = 1; i < t.colunas; ++i)
+            sql += QStringLiteral(", ?");
+        sql += QLatin1Char(')');
+        sqlite3_stmt* st = nullptr;
+        if (sqlite3_prepare_v2(db, sql.toUtf8().constData(), -1, &st, nullptr) != SQLITE_OK)
+            std::fprintf(stderr, "%s: %s\n", qPrintable(sql), sqlite3_errmsg(db));
+        for (size_t inicio = 0; inicio < t.valores.size(); inicio += size_t(t.colunas)) {
+            for (int i = 0; i < t.colunas; ++i) {
+                const Valor& v = t.valores[inicio + size_t(i)];
+                if (v.tipo == SQLITE_INTEGER)
+                    sqlite3_bind_int64(st, i + 1, v.inteiro);
+                else if (v.tipo == SQLITE_FLOAT)
+                    sqlite3_bind_double(st, i + 1, v.real);
+                else if (v.tipo == SQLITE_TEXT)
+                    sqlite3_bind_text(st, i + 1, v.bytes.constData(), int(v.bytes.size()), SQLITE_STATIC);
+                else if (v.tipo == SQLITE_BLOB)
+                    sqlite3_bind_blob(st, i + 1, v.bytes.constData(), int(v.bytes.size()), SQLITE_STATIC);
+                else
+                    sqlite3_bind_null(st, i + 1);
+            }
+            if (sqlite3_step(st) != SQLITE_DONE)
+                std::fprintf(stderr, "%s: %s\n", qPrintable(t.nome), sqlite3_errmsg(db));
+            sqlite3_reset(st);
+        }
+        sqlite3_finalize(st);
+    }
+    roda(db, "COMMIT");
+    sqlite3_close(db);
+    return c.para();
+}
+
 // The export: the shell writes every row of the declaration's tables as CSV.
 Medida exportacao(const QString& banco, const QStringList& tabelas, const QString& pasta)
 {
@@ -382,33 +491,49 @@ int main(int argc, char** argv)
         linhasCriadas += ValorUnico(QStringLiteral("SELECT COUNT(*) FROM ") + t).toLongLong();
     DesconectaBanco();
 
-    // The floor of the reading: the rows it created, loaded by the shell into the database as it was before.
+    // The floors of the reading: the rows it created, loaded into the database as it was before, once through
+    // prepared statements and once by the shell from files of INSERTs.
+    const QString antesShell = pasta + QStringLiteral("/antes-shell.mdb");
+    QFile::copy(antes, antesShell);
+    const std::vector<LinhasTabela> criadas = tiraLinhasCriadas(destino, antes, tabelas);
+    const Medida preparada = cargaPreparada(antes, criadas);
+    const auto contaEm = [&tabelas](const QString& banco) {
+        ConectaBanco(banco);
+        qint64 n = 0;
+        for (const QString& t : tabelas)
+            n += ValorUnico(QStringLiteral("SELECT COUNT(*) FROM ") + t).toLongLong();
+        DesconectaBanco();
+        return n;
+    };
+    const qint64 linhasPreparada = contaEm(antes);
     QDir(pasta).mkpath(QStringLiteral("lido"));
-    const QStringList comLinhas = despeja(destino, antes, tabelas, pasta + QStringLiteral("/lido"));
-    const Medida mesmoEsquema = cargaMesmoEsquema(antes, comLinhas, pasta + QStringLiteral("/lido"));
-    ConectaBanco(antes);
-    qint64 linhasCarregadas = 0;
-    for (const QString& t : tabelas)
-        linhasCarregadas += ValorUnico(QStringLiteral("SELECT COUNT(*) FROM ") + t).toLongLong();
-    DesconectaBanco();
+    const QStringList comLinhas = despeja(destino, antesShell, tabelas, pasta + QStringLiteral("/lido"));
+    const Medida mesmoEsquema = cargaMesmoEsquema(antesShell, comLinhas, pasta + QStringLiteral("/lido"));
+    const qint64 linhasCarregadas = contaEm(antesShell);
 
     const double tNua = cargaSqlite(pasta, registros);
     const Medida nua{tNua, tNua};
 
+    const auto comShell = [&](const Medida& m) {
+        return QStringLiteral("; %1x a carga do shell").arg(m.parede / mesmoEsquema.parede, 0, 'f', 2);
+    };
     std::printf("registros no arquivo: %lld (%.1f MB)\n", static_cast<long long>(registros),
                 QFileInfo(arquivo).size() / 1e6);
     linha("gravar (GravaVrt)", gravar, registros, razoes(gravar, exportar, "a exportação", nua));
     linha("verificar (vrt-cli)", verificacao, registros,
-          razoes(verificacao, mesmoEsquema, "a carga igual", nua) +
+          razoes(verificacao, preparada, "a carga igual", nua) + comShell(verificacao) +
               QStringLiteral(" [%1, saída %2]").arg(QString::fromUtf8(saidaVerificar)).arg(verificar.exitCode()));
     linha("ler num banco vazio (LeArquivoVrt)", ler, registros,
-          razoes(ler, mesmoEsquema, "a carga igual", nua) + (lida ? QStringLiteral(" [concluída]")
-                                                                  : QStringLiteral(" [FALHOU]")));
+          razoes(ler, preparada, "a carga igual", nua) + comShell(ler) +
+              (lida ? QStringLiteral(" [concluída]") : QStringLiteral(" [FALHOU]")));
     linha("sqlite3: exportação CSV das tabelas", exportar, registros, QString());
-    linha("sqlite3: carga igual (mesmo esquema)", mesmoEsquema, registros,
+    linha("carga igual (preparada, C)", preparada, registros,
+          QStringLiteral("%1 linhas em %2 tabelas").arg(linhasPreparada).arg(criadas.size()));
+    linha("sqlite3: carga igual (INSERTs)", mesmoEsquema, registros,
           QStringLiteral("%1 linhas em %2 tabelas").arg(linhasCarregadas).arg(comLinhas.size()));
     std::printf("%-36s %7.2f s\n", "sqlite3: carga nua (uma tabela)", tNua);
-    std::printf("linhas criadas pela leitura: %lld; pela carga igual: %lld\n", static_cast<long long>(linhasCriadas),
+    std::printf("linhas criadas pela leitura: %lld; pela carga preparada: %lld; pelo shell: %lld\n",
+                static_cast<long long>(linhasCriadas), static_cast<long long>(linhasPreparada),
                 static_cast<long long>(linhasCarregadas));
     std::printf("memória de pico: gravar %.1f MB, ler %.1f MB (este processo), verificar %.1f MB (vrt-cli)\n",
                 memoriaGravacao / 1024.0, memoriaLeitura / 1024.0, memoriaVerificar / 1024.0);

@@ -87,8 +87,8 @@ void ComandoSqlite::liga(int posicao, const QVariant& v)
             sqlite3_bind_null(m_stmt, i);
             return;
         }
-        m_textos[posicao] = texto.toUtf8();
-        break;
+        ligaTexto(posicao, texto);
+        return;
     }
     default:
         m_textos[posicao] = v.toString().toUtf8();
@@ -96,6 +96,49 @@ void ComandoSqlite::liga(int posicao, const QVariant& v)
     }
     const QByteArray& t = m_textos.at(posicao);
     sqlite3_bind_text(m_stmt, i, t.constData(), int(t.size()), SQLITE_STATIC);
+}
+
+void ComandoSqlite::ligaTexto(int posicao, QStringView texto)
+{
+    // UTF-8 by hand into a buffer whose capacity stays from run to run: nearly every text here is ASCII.
+    QByteArray& b = m_textos[posicao];
+    b.resize(texto.size() * 3);
+    char* d = b.data();
+    for (qsizetype i = 0; i < texto.size(); ++i) {
+        const char16_t u = texto.at(i).unicode();
+        if (u < 0x80) {
+            *d++ = char(u);
+        } else if (u < 0x800) {
+            *d++ = char(0xC0 | (u >> 6));
+            *d++ = char(0x80 | (u & 0x3F));
+        } else if (QChar::isSurrogate(u)) {
+            b = texto.toUtf8();
+            d = b.data() + b.size();
+            break;
+        } else {
+            *d++ = char(0xE0 | (u >> 12));
+            *d++ = char(0x80 | ((u >> 6) & 0x3F));
+            *d++ = char(0x80 | (u & 0x3F));
+        }
+    }
+    b.resize(d - b.data());
+    sqlite3_bind_text(m_stmt, posicao + 1, b.isEmpty() ? "" : b.constData(), int(b.size()), SQLITE_STATIC);
+}
+
+void ComandoSqlite::inicia()
+{
+    sqlite3_reset(m_stmt);
+    // A QSqlError is not free to make: reset only after a failure.
+    if (m_erro.type() != QSqlError::NoError)
+        m_erro = QSqlError();
+    m_temLinha = false;
+}
+
+bool ComandoSqlite::executa()
+{
+    m_noFim = false;
+    m_temLinha = passo();
+    return m_erro.type() == QSqlError::NoError;
 }
 
 bool ComandoSqlite::passo()
@@ -113,9 +156,7 @@ bool ComandoSqlite::passo()
 
 bool ComandoSqlite::roda(const QVariantList& valores)
 {
-    sqlite3_reset(m_stmt);
-    m_erro = QSqlError();
-    m_temLinha = false;
+    inicia();
     if (valores.size() != m_textos.size()) {
         m_erro = QSqlError(QCoreApplication::translate("QSQLiteResult", "Parameter count mismatch"), QString(),
                            QSqlError::StatementError);
@@ -124,9 +165,7 @@ bool ComandoSqlite::roda(const QVariantList& valores)
     }
     for (int i = 0; i < valores.size(); ++i)
         liga(i, valores.at(i));
-    m_noFim = false;
-    m_temLinha = passo();
-    return m_erro.type() == QSqlError::NoError;
+    return executa();
 }
 
 void ComandoSqlite::abre(const QVariantList& valores)

@@ -14,6 +14,7 @@
 // as a null QString; a refused statement gives a QSqlError with SQLite's extended code and message.
 #include <QSqlError>
 #include <QString>
+#include <QStringView>
 #include <QVariant>
 #include <QVariantList>
 #include <QVector>
@@ -34,6 +35,15 @@ public:
     bool roda(const QVariantList& valores);
     // roda(), ending the run through BDTrataErro when the engine refuses, before the first row.
     void abre(const QVariantList& valores);
+    // The same run bound one value at a time, for a statement run a hundred thousand times without building a
+    // list of values: inicia(), liga() or ligaTexto() for every placeholder, then executa() (as roda()).
+    void inicia();
+    void liga(int posicao, const QVariant& v);
+    // A text, never NULL (an empty view is an empty text), converted to UTF-8 into a buffer the statement keeps.
+    void ligaTexto(int posicao, QStringView texto);
+    bool executa();
+    int parametros() const { return int(m_textos.size()); }
+
     // Moves to the next row: the first call after roda()/abre() gives the first row. False at the end.
     bool proxima();
     // Ends the current run early (the engine's locks and cursor are released).
@@ -55,7 +65,6 @@ public:
     static sqlite3* conexao();
 
 private:
-    void liga(int posicao, const QVariant& v);
     bool passo();
 
     sqlite3* m_db = nullptr;

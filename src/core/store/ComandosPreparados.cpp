@@ -22,12 +22,25 @@ void ComandosPreparados::falha(const QSqlError& erro)
     modBancoDados::BDTrataErro(erro);
 }
 
-ComandoSqlite& ComandosPreparados::roda(const QString& sql, const QVariantList& valores)
+ComandoSqlite& ComandosPreparados::comando(const QString& sql)
 {
     auto it = m_comandos.find(sql);
     if (it == m_comandos.end())
         it = m_comandos.emplace(sql, std::make_unique<ComandoSqlite>(sql)).first;
-    ComandoSqlite& c = *it->second;
+    return *it->second;
+}
+
+void ComandosPreparados::executaLigado(ComandoSqlite& c)
+{
+    if (!c.executa())
+        falha(c.erro());
+    m_ultimaChave = c.ultimaChave();
+    c.encerra();
+}
+
+ComandoSqlite& ComandosPreparados::roda(const QString& sql, const QVariantList& valores)
+{
+    ComandoSqlite& c = comando(sql);
     // A null QString would be bound as NULL; the reader stores empty fields as empty texts.
     const auto textoNulo = [](const QVariant& v) {
         return v.typeId() == QMetaType::QString && static_cast<const QString*>(v.constData())->isNull();

@@ -34,6 +34,11 @@ public:
 
     // Runs a statement without result rows; `sql` has "?" placeholders, bound in order.
     void executa(const QString& sql, const QVariantList& valores);
+    // The cached statement of `sql`, for a caller that binds its values one at a time (ComandoSqlite::inicia,
+    // liga, ligaTexto) and then runs it through executaLigado. The reference lives as long as the cache.
+    ComandoSqlite& comando(const QString& sql);
+    // Runs a statement bound by the caller, as `executa` runs one.
+    void executaLigado(ComandoSqlite& comando);
     // Key that the engine gave to the row inserted by the last `executa`, or an invalid QVariant.
     QVariant ultimaChave() const { return m_ultimaChave; }
     // First column of the first row, or an invalid QVariant when there is no row.

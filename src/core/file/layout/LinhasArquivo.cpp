@@ -2,6 +2,8 @@
 
 #include <QFile>
 
+#include <cstring>
+
 bool LinhasArquivo::abre(const QString& caminho)
 {
     QFile arquivo(caminho);
@@ -16,7 +18,14 @@ bool LinhasArquivo::abre(QIODevice& dispositivo)
         return false;
     m_dados = dispositivo.readAll();
     m_posicao = 0;
-    m_total = m_dados.count('\n');
+    m_total = 0;
+    // memchr runs far faster than a loop over the bytes on a file of tens of megabytes.
+    const char* p = m_dados.constData();
+    const char* const fim = p + m_dados.size();
+    while ((p = static_cast<const char*>(std::memchr(p, '\n', size_t(fim - p))))) {
+        ++m_total;
+        ++p;
+    }
     if (!m_dados.isEmpty() && !m_dados.endsWith('\n'))
         ++m_total;
     return true;

@@ -100,6 +100,80 @@ QString RegistroLido::lido(const CampoLayout& c) const
     return t;
 }
 
+namespace {
+bool soDigitos(QStringView t)
+{
+    for (QChar c : t) {
+        if (c.unicode() < u'0' || c.unicode() > u'9')
+            return false;
+    }
+    return !t.isEmpty();
+}
+QStringView semZerosAEsquerda(QStringView digitos)
+{
+    qsizetype i = 0;
+    while (i < digitos.size() && digitos.at(i) == QLatin1Char('0'))
+        ++i;
+    return digitos.mid(i);
+}
+}  // namespace
+
+QStringView RegistroLido::lidoEm(const CampoLayout& c, QString& espaco) const
+{
+    const qsizetype inicio = c.posicao - 1;
+    if (inicio + c.tamanho > m_linha.size()) {
+        espaco = lido(c);
+        return espaco;
+    }
+    const QStringView t = QStringView(m_linha).mid(inicio, c.tamanho);
+    switch (c.leitura) {
+    case LeituraCampo::ComoEsta:
+        return t;
+    case LeituraCampo::Aparado: {
+        qsizetype a = 0, b = t.size();
+        while (a < b && t.at(a) == QLatin1Char(' '))
+            ++a;
+        while (b > a && t.at(b - 1) == QLatin1Char(' '))
+            --b;
+        return t.mid(a, b - a);
+    }
+    case LeituraCampo::ZerosVazio:
+        return soDigitos(t) && semZerosAEsquerda(t).isEmpty() ? QStringView() : t;
+    case LeituraCampo::SemZerosEsquerda:
+        if (soDigitos(t))
+            return semZerosAEsquerda(t);
+        break;
+    case LeituraCampo::Decimal:
+        if (soDigitos(t) && c.casas() > 0) {
+            // InsereVirgula on the digits after the leading zeros.
+            const QStringView v = semZerosAEsquerda(t);
+            if (v.isEmpty())
+                return QStringView();
+            const qsizetype d = v.size() - c.casas();
+            espaco.resize(0);
+            if (d > 0) {
+                espaco.append(v.left(d)).append(QLatin1Char(',')).append(v.mid(d));
+            } else {
+                espaco.append(QLatin1String("0,"));
+                for (qsizetype i = d; i < 0; ++i)
+                    espaco.append(QLatin1Char('0'));
+                espaco.append(v);
+            }
+            return espaco;
+        }
+        break;
+    case LeituraCampo::Data:
+        if (t.size() == 8) {
+            espaco.resize(0);
+            espaco.append(t.mid(6, 2)).append(t.mid(4, 2)).append(t.left(4));
+            return espaco;
+        }
+        return t;
+    }
+    espaco = lido(c);
+    return espaco;
+}
+
 QString RegistroLido::lido(const QString& nome) const
 {
     return lido(campo(nome));

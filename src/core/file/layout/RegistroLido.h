@@ -5,6 +5,7 @@
 #include "core/file/layout/LayoutRegistro.h"
 
 #include <QString>
+#include <QStringView>
 
 class RegistroLido {
 public:
@@ -28,6 +29,9 @@ public:
     // The field by its own rule (CampoLayout::leitura): what the reader stores.
     QString lido(const CampoLayout& campo) const;
     QString lido(const QString& campo) const;
+    // The same text as lido(campo), without a new text where the rule only cuts the field: a view into the line,
+    // or into `espaco` when the rule changes the characters. Valid while the line and `espaco` are.
+    QStringView lidoEm(const CampoLayout& campo, QString& espaco) const;
     bool zeros(const QString& campo) const;
     bool brancos(const QString& campo) const;
 

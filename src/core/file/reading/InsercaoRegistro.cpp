@@ -2,6 +2,7 @@
 
 #include "core/file/layout/LayoutRegistro.h"
 #include "core/file/layout/RegistroLido.h"
+#include "core/store/ComandoSqlite.h"
 #include "core/store/ComandosPreparados.h"
 
 #include <QtGlobal>
@@ -62,5 +63,23 @@ void InsercaoRegistro::executa(ComandosPreparados& comandos, const QVariantList&
 void InsercaoRegistro::executa(ComandosPreparados& comandos, const RegistroLido& registro,
                                const QVariantList& antes) const
 {
-    comandos.executa(m_sql, valores(registro, antes));
+    // The fields are bound straight from the line, without a list of values: this runs once per record.
+    Q_ASSERT(antes.size() == m_antes);
+    if (m_de != &comandos) {
+        m_comando = &comandos.comando(m_sql);
+        m_de = &comandos;
+    }
+    ComandoSqlite& c = *m_comando;
+    c.inicia();
+    for (int i = 0; i < m_antes; ++i) {
+        const QVariant& v = antes.at(i);
+        // As ComandosPreparados binds them: a null text is an empty one.
+        if (v.typeId() == QMetaType::QString)
+            c.ligaTexto(i, *static_cast<const QString*>(v.constData()));
+        else
+            c.liga(i, v);
+    }
+    for (int k = 0; k < m_campos.size(); ++k)
+        c.ligaTexto(m_antes + k, registro.lidoEm(m_layout.campos.at(m_campos.at(k)), m_espaco));
+    comandos.executaLigado(c);
 }

@@ -14,6 +14,7 @@
 #include <QVariantList>
 #include <QVector>
 
+class ComandoSqlite;
 class ComandosPreparados;
 class LayoutRegistro;
 class RegistroLido;
@@ -43,4 +44,8 @@ private:
     QVector<int> m_campos;  // indices into the layout's fields
     QStringList m_colunas;
     QString m_sql;
+    // The statement in the cache it was last run on, and room for a field the reading rule rewrites.
+    mutable const ComandosPreparados* m_de = nullptr;
+    mutable ComandoSqlite* m_comando = nullptr;
+    mutable QString m_espaco;
 };
