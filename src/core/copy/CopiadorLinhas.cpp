@@ -88,19 +88,21 @@ QString CopiadorLinhas::tabelaMapa(const QString& mapa)
 }
 
 // `ordem` numbers the rows of the map from 1 in the order they go in; the new key is that number past the
-// table's last key.
-void CopiadorLinhas::criaMapa(const QString& mapa)
+// table's last key. The keys are typed as the table's own: a key without a type would compare to the children's
+// column under another affinity, and the index on `antigo` would go unused (a scan of the map for every row).
+void CopiadorLinhas::criaMapa(const QString& mapa, const QString& tipo)
 {
     const QString tabela = tabelaMapa(mapa);
     executa(QStringLiteral("DROP TABLE IF EXISTS ") + tabela);
-    executa(QStringLiteral("CREATE TABLE %1 (ordem INTEGER PRIMARY KEY, antigo UNIQUE, novo, grupo)").arg(tabela));
+    executa(QStringLiteral("CREATE TABLE %1 (ordem INTEGER PRIMARY KEY, antigo %2 UNIQUE, novo %2, grupo TEXT)")
+                .arg(tabela, tipo));
     if (!m_mapas.contains(tabela))
         m_mapas << tabela;
 }
 
 void CopiadorLinhas::raiz(const QString& mapa, const QVariant& antigo, const QVariant& novo)
 {
-    criaMapa(mapa);
+    criaMapa(mapa, QStringLiteral("TEXT"));
     executa(QStringLiteral("INSERT INTO %1 (antigo, novo) VALUES (?, ?)").arg(tabelaMapa(mapa)), {antigo, novo});
 }
 
@@ -143,7 +145,7 @@ void CopiadorLinhas::copia(const PassoCopia& passo)
     const QString chave = contador(passo.tabela);
     if (chave.isEmpty() || chave == passo.pai)
         BDTrataErro(QStringLiteral("3078"), QStringLiteral("Tabela sem contador próprio: ") + passo.tabela);
-    criaMapa(passo.mapa);
+    criaMapa(passo.mapa, QStringLiteral("INTEGER"));
     const QString mapa = tabelaMapa(passo.mapa);
     executa(QStringLiteral("INSERT INTO %1 (antigo, grupo) SELECT t.%2, %3").arg(mapa, chave, passo.grupo.isEmpty() ? QStringLiteral("NULL") : passo.grupo)
             + origem + ordem);

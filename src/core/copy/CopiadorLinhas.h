@@ -41,7 +41,7 @@ public:
     CopiadorLinhas(const CopiadorLinhas&) = delete;
     CopiadorLinhas& operator=(const CopiadorLinhas&) = delete;
 
-    // The map that starts a copy: the one parent `antigo`, copied as `novo`.
+    // The map that starts a copy: the one parent `antigo`, a text key, copied as `novo`.
     void raiz(const QString& mapa, const QVariant& antigo, const QVariant& novo);
     // Copies the rows of one table, in one statement (three for a table that makes a map).
     void copia(const PassoCopia& passo);
@@ -62,7 +62,7 @@ public:
 
 private:
     void leEsquema(const QString& tabela);
-    void criaMapa(const QString& mapa);
+    void criaMapa(const QString& mapa, const QString& tipo);
     qint64 ultimaChave(const QString& tabela, const QString& chave);
     QHash<QString, QStringList> m_colunas;
     QHash<QString, QString> m_contador;
