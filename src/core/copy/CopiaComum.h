@@ -6,6 +6,9 @@
 
 namespace CopiaVrt {
 
+// The key map of the declaration itself: its identification, old and new.
+inline const QString MapaVrt = QStringLiteral("VRT");
+
 class CopiaEmCurso {
 public:
     // Replaces the connection with a fresh one to the database file, begins the transaction and shows the

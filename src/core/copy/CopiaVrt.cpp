@@ -4,10 +4,6 @@
 #include "core/session/modVRTPLN.h"
 #include "core/store/modBancoDados.h"
 
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
-
 using namespace modBancoDados;
 
 namespace CopiaVrt {
@@ -48,15 +44,8 @@ CopiaEmCurso::CopiaEmCurso(const Pedido& pedido, const Acompanhamento& acompanha
 {
     ConectaBanco(modVRTPLN::ArquivoBanco());
     IniciaTransacao();
-    // Inside the transaction SQLite opens and frees a statement journal for every INSERT ... SELECT; with glibc's
-    // default trim threshold each free gave the top of the heap back to the system and the next statement asked
-    // for it again, a TLB flush each time (perf: a third of the copy's time in brk). Keeping the freed memory
-    // made the first copy of 10,000 items go from about 40 s to about 4 s; rows and results are unchanged.
-#ifdef __GLIBC__
-    mallopt(M_TRIM_THRESHOLD, 256 * 1024 * 1024);
-    mallopt(M_TOP_PAD, 64 * 1024 * 1024);
-#endif
     m_linhas = std::make_unique<CopiadorLinhas>();
+    m_linhas->raiz(MapaVrt, m_pedido.origem, m_nova);
     if (m_acompanhamento.inicio)
         m_acompanhamento.inicio();
 }
@@ -82,8 +71,8 @@ void CopiaEmCurso::copiaCabeca()
                        m_pedido.origem});
     const QString id = QStringLiteral("ID_VRT_MICRO");
     if (retificadora())
-        m_linhas->copiaTodas(QStringLiteral("VALORES_DIVER_RETIF"), id, m_pedido.origem, m_nova);
-    m_linhas->copiaTodas(QStringLiteral("VALORES_DIVER_MANDADO"), id, m_pedido.origem, m_nova);
+        m_linhas->copia({QStringLiteral("VALORES_DIVER_RETIF"), id, MapaVrt});
+    m_linhas->copia({QStringLiteral("VALORES_DIVER_MANDADO"), id, MapaVrt});
 }
 
 void CopiaEmCurso::avanca(int valor)
@@ -98,6 +87,7 @@ void CopiaEmCurso::conclui(const QString& mensagem)
     if (m_acompanhamento.situacao)
         m_acompanhamento.situacao(QString::fromUtf8("** Cópia concluída **"));
     MsgBox(mensagem, Msg::Information);
+    m_linhas->encerra();
     m_linhas.reset();
     ConfirmaTransacao();
 }

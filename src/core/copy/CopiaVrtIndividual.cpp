@@ -1,5 +1,5 @@
 // The copy of an individual declaration: the head, the exit invoice, then its items by modality ("4", "2", "1",
-// "3"), each with the rows of its modality.
+// "3"), each with the rows of its modality. Each table goes in one statement (see CopiadorLinhas).
 #include "core/copy/CopiaComum.h"
 
 namespace CopiaVrt {
@@ -12,89 +12,72 @@ QString s(const char* t)
 }
 
 const QString ID = s("ID_VRT_MICRO");
-const QString ITEM = s("ITEM_NFS");
 const QString ID_ITEM = s("ID_ITEM");
+const QString ID_INSUMO = s("ID_INSUMO");
+const QString ID_DI = s("ID_ITEM_DI");
 
-void copiaDocumentos288(CopiadorLinhas& l, const QString& tabela, const QString& tabela288, const QString& pai,
-                        const QVariant& antigo, const QVariant& novo)
+// The items' map keeps each item's modality, for the tables that only one modality copies.
+QString daModalidade(char modalidade)
 {
-    for (const QVariant& di : l.chaves(tabela, s("ID_ITEM_DI"), pai, antigo)) {
-        const QVariant novoDi = l.copiaUma(tabela, s("ID_ITEM_DI"), di, pai, novo);
-        l.copiaTodas(tabela288, s("ID_ITEM_DI"), di, novoDi);
+    return s("p.grupo = '") + QLatin1Char(modalidade) + QLatin1Char('\'');
+}
+
+// "Original" leaves the number, series and dates of the invoice to be entered anew.
+void copiaNotaFiscal(CopiaEmCurso& c)
+{
+    PassoCopia nota{s("NOTA_FISCAL_SAIDA"), ID, MapaVrt, {}, {}, s("NFS")};
+    if (!c.retificadora()) {
+        for (const char* coluna : {"NR_NF_SAIDA", "NR_SERIE_NF_SAIDA", "DT_EMISS_NF_SAIDA", "DT_SAIDA_NF_SAIDA"})
+            nota.trocas.insert(s(coluna), s("''"));
     }
+    c.linhas().copia(nota);
 }
 
-void copiaModalidade4(CopiaEmCurso& c, const QVariant& item, const QVariant& novo)
+// Invoice by invoice, the items of modality "4", then "2", "1" and "3".
+void copiaItens(CopiadorLinhas& l)
 {
-    c.linhas().copiaTodas(s("ITEM_NFS_100"), ID_ITEM, item, novo);
+    l.copia({s("ITEM_NFS"), s("ID_NFS"), s("NFS"), s("t.IND_MOD_INTERNACAO IN ('4', '2', '1', '3')"),
+             s("CASE t.IND_MOD_INTERNACAO WHEN '4' THEN 0 WHEN '2' THEN 1 WHEN '1' THEN 2 ELSE 3 END"), s("ITEM"),
+             s("t.IND_MOD_INTERNACAO")});
 }
 
-void copiaModalidade2(CopiaEmCurso& c, const QVariant& item, const QVariant& novo)
+void copiaModalidades4e2(CopiadorLinhas& l)
 {
-    CopiadorLinhas& l = c.linhas();
-    l.copiaTodas(s("ITEM_NFS_PI_COM_PPB"), ID_ITEM, item, novo);
-    l.copiaTodas(s("DCRE"), ID_ITEM, item, novo);
-    l.copiaTodas(s("DCR"), ID_ITEM, item, novo);
+    l.copia({s("ITEM_NFS_100"), ID_ITEM, s("ITEM"), daModalidade('4')});
+    for (const char* tabela : {"ITEM_NFS_PI_COM_PPB", "DCRE", "DCR"})
+        l.copia({s(tabela), ID_ITEM, s("ITEM"), daModalidade('2')});
 }
 
-void copiaModalidade1(CopiaEmCurso& c, const QVariant& item, const QVariant& novo)
+void copiaModalidade1(CopiadorLinhas& l)
 {
-    CopiadorLinhas& l = c.linhas();
-    l.copiaTodas(s("ITEM_NFS_PE"), ID_ITEM, item, novo);
-    l.copiaTodas(s("JUST_DIF_ALIQ_PROD_VRT_IND"), ID_ITEM, item, novo);
-    l.copiaTodas(s("ITEM_NFA_PE_IND"), ID_ITEM, item, novo);
-    copiaDocumentos288(l, s("ITEM_DI_PE_IND"), s("ITEM_IMPORT_288_PE"), ID_ITEM, item, novo);
-    l.copiaTodas(s("ITEM_DSI_PE_IND"), ID_ITEM, item, novo);
+    const QString modalidade1 = daModalidade('1');
+    for (const char* tabela : {"ITEM_NFS_PE", "JUST_DIF_ALIQ_PROD_VRT_IND", "ITEM_NFA_PE_IND"})
+        l.copia({s(tabela), ID_ITEM, s("ITEM"), modalidade1});
+    l.copia({s("ITEM_DI_PE_IND"), ID_ITEM, s("ITEM"), modalidade1, {}, s("DI_PE")});
+    l.copia({s("ITEM_IMPORT_288_PE"), ID_DI, s("DI_PE")});
+    l.copia({s("ITEM_DSI_PE_IND"), ID_ITEM, s("ITEM"), modalidade1});
 }
 
 // The total of each input goes to INSUMO_VRT, the monthly declaration's table, and not to INSUMO_VRT_IND, which
 // the writer of an individual declaration reads: the copy's input records carry no total, as the system stands.
-void copiaModalidade3(CopiaEmCurso& c, const QVariant& item, const QVariant& novo)
+// Each input's row goes with the first item of modality "3" that names it.
+void copiaModalidade3(CopiaEmCurso& c)
 {
     CopiadorLinhas& l = c.linhas();
-    l.copiaTodas(s("ITEM_NFS_PI_SEM_PPB"), ID_ITEM, item, novo);
-    const QString insumo = s("INSUMO_ITEM_NFS");
-    const QString idInsumo = s("ID_INSUMO");
-    for (const QVariant& ins : l.chaves(insumo, idInsumo, ID_ITEM, item)) {
-        const QVariant novoInsumo = l.copiaUma(insumo, idInsumo, ins, ID_ITEM, novo);
-        l.copiaTodas(s("JUST_DIF_ALIQ_INS_VRT_IND"), idInsumo, ins, novoInsumo);
-        l.copiaTodas(s("ITEM_NFA_INS_IND"), idInsumo, ins, novoInsumo);
-        copiaDocumentos288(l, s("ITEM_DI_INS_IND"), s("ITEM_IMPORT_288_INS"), idInsumo, ins, novoInsumo);
-        l.copiaTodas(s("ITEM_DSI_INS_IND"), idInsumo, ins, novoInsumo);
-    }
+    l.copia({s("ITEM_NFS_PI_SEM_PPB"), ID_ITEM, s("ITEM"), daModalidade('3')});
+    l.copia({s("INSUMO_ITEM_NFS"), ID_ITEM, s("ITEM"), daModalidade('3'), {}, s("INSUMO")});
+    l.copia({s("JUST_DIF_ALIQ_INS_VRT_IND"), ID_INSUMO, s("INSUMO")});
+    l.copia({s("ITEM_NFA_INS_IND"), ID_INSUMO, s("INSUMO")});
+    l.copia({s("ITEM_DI_INS_IND"), ID_INSUMO, s("INSUMO"), {}, {}, s("DI_INS")});
+    l.copia({s("ITEM_IMPORT_288_INS"), ID_DI, s("DI_INS")});
+    l.copia({s("ITEM_DSI_INS_IND"), ID_INSUMO, s("INSUMO")});
     l.executa(s("INSERT INTO INSUMO_VRT (ID_VRT_MICRO, CD_INT_INSUMO, QT_TOT_INS_EST) "
-                "SELECT ?, v.CD_INT_INSUMO, v.QT_TOT_INS FROM INSUMO_VRT_IND v WHERE v.ID_VRT_MICRO = ? "
-                "AND v.CD_INT_INSUMO IN (SELECT CD_INT_INSUMO FROM INSUMO_ITEM_NFS WHERE ID_ITEM = ?) "
-                "AND NOT EXISTS (SELECT 1 FROM INSUMO_VRT x WHERE x.ID_VRT_MICRO = ? "
-                "AND x.CD_INT_INSUMO = v.CD_INT_INSUMO) ORDER BY v.rowid"),
-              {c.nova(), c.origem(), item, c.nova()});
-}
-
-using CopiaModalidade = void (*)(CopiaEmCurso&, const QVariant&, const QVariant&);
-
-void copiaItens(CopiaEmCurso& c, const QVariant& nfs, const QVariant& novaNfs, char modalidade,
-                CopiaModalidade copiaFilhos)
-{
-    CopiadorLinhas& l = c.linhas();
-    const QString filtro = s("ITEM_NFS.IND_MOD_INTERNACAO = '") + QLatin1Char(modalidade) + QLatin1Char('\'');
-    for (const QVariant& item : l.chaves(ITEM, ID_ITEM, s("ID_NFS"), nfs, filtro)) {
-        const QVariant novo = l.copiaUma(ITEM, ID_ITEM, item, s("ID_NFS"), novaNfs);
-        copiaFilhos(c, item, novo);
-    }
-}
-
-// "Original" leaves the number, series and dates of the invoice to be entered anew.
-QVariant copiaNotaFiscal(CopiaEmCurso& c, const QVariant& nfs)
-{
-    CopiadorLinhas& l = c.linhas();
-    if (c.retificadora())
-        return l.copiaUma(s("NOTA_FISCAL_SAIDA"), s("ID_NFS"), nfs, ID, c.nova());
-    l.executa(s("INSERT INTO NOTA_FISCAL_SAIDA (ID_VRT_MICRO, NR_NF_SAIDA, NR_SERIE_NF_SAIDA, DT_EMISS_NF_SAIDA, "
-                "DT_SAIDA_NF_SAIDA, CD_OP_FISCAL, CD_TIPO_DESTINAT, NR_DESTINAT, CD_UF_DESTINO) "
-                "SELECT ?, '', '', '', '', CD_OP_FISCAL, CD_TIPO_DESTINAT, NR_DESTINAT, CD_UF_DESTINO "
-                "FROM NOTA_FISCAL_SAIDA WHERE ID_NFS = ?"),
-              {c.nova(), nfs});
-    return l.valor(s("SELECT max(ID_NFS) FROM NOTA_FISCAL_SAIDA"));
+                "SELECT ?, v.CD_INT_INSUMO, v.QT_TOT_INS FROM INSUMO_VRT_IND v "
+                "JOIN (SELECT n.CD_INT_INSUMO AS insumo, min(m.ordem) AS primeiro FROM %1 m "
+                "JOIN INSUMO_ITEM_NFS n ON n.ID_ITEM = m.antigo WHERE m.grupo = '3' GROUP BY n.CD_INT_INSUMO) u "
+                "ON u.insumo = v.CD_INT_INSUMO WHERE v.ID_VRT_MICRO = ? ORDER BY u.primeiro, v.rowid")
+                  .arg(CopiadorLinhas::tabelaMapa(s("ITEM"))),
+              {c.nova(), c.origem()});
 }
 
 }  // namespace
@@ -108,17 +91,15 @@ void ExecutaCopiaVrtIndividual(const Pedido& pedido, const Acompanhamento& acomp
                          "SELECT ?, IN_SAIDA_ALC_AO FROM VRT_INDIVIDUAL WHERE ID_VRT_MICRO = ?"),
                        {c.nova(), c.origem()});
     c.avanca(15);
-    for (const QVariant& nfs : c.linhas().chaves(s("NOTA_FISCAL_SAIDA"), s("ID_NFS"), ID, c.origem())) {
-        const QVariant novaNfs = copiaNotaFiscal(c, nfs);
-        c.avanca(25);
-        copiaItens(c, nfs, novaNfs, '4', copiaModalidade4);
-        c.avanca(40);
-        copiaItens(c, nfs, novaNfs, '2', copiaModalidade2);
-        c.avanca(55);
-        copiaItens(c, nfs, novaNfs, '1', copiaModalidade1);
-        c.avanca(75);
-        copiaItens(c, nfs, novaNfs, '3', copiaModalidade3);
-    }
+    copiaNotaFiscal(c);
+    copiaItens(c.linhas());
+    c.avanca(25);
+    copiaModalidades4e2(c.linhas());
+    c.avanca(40);
+    copiaModalidade1(c.linhas());
+    c.avanca(55);
+    copiaModalidade3(c);
+    c.avanca(75);
     c.conclui(s("VRT Individual copiada com sucesso!"));
 }
 

@@ -1,5 +1,6 @@
-// The copy of a monthly declaration: the head, then the items by modality ("4", "2", "1", "3"), then the
-// documents of the inputs, which hang from the declaration rather than from an item.
+// The copy of a monthly declaration: the head, then the items by modality ("4", "2", "1", "3") with the rows of
+// their modality, then the documents of the inputs, which hang from the declaration rather than from an item.
+// Each table goes in one statement (see CopiadorLinhas).
 #include "core/copy/CopiaComum.h"
 
 namespace CopiaVrt {
@@ -12,100 +13,79 @@ QString s(const char* t)
 }
 
 const QString ID = s("ID_VRT_MICRO");
-const QString ITEM = s("ITEM_VRT_MEN");
 const QString ID_ITEM = s("ID_ITEM_VRT");
+const QString ID_DESTINO = s("ID_DEST_PRODUTO");
+const QString ID_DI = s("ID_ITEM_DI");
 
-QString filtroModalidade(char modalidade)
+// The items' map keeps each item's modality, for the tables that only one modality copies.
+QString daModalidade(const char* modalidades)
 {
-    return s("IND_MOD_INTERNACAO = '") + QLatin1Char(modalidade) + QLatin1Char('\'');
+    return s("p.grupo IN (%1)").arg(s(modalidades));
 }
 
-// A document of Decreto-Lei 288/67 goes with its import row only when the document says so; a row under a
-// document marked otherwise stays behind.
-bool levaImportacao288(CopiadorLinhas& l, const QString& tabela, const QVariant& idDi)
+// A document of Decreto-Lei 288/67 (or of suspended PIS/COFINS) takes its import row along; a row under a
+// document marked otherwise stays behind. The mark is kept in the documents' map.
+const QString Leva288 = s("CASE WHEN trim(t.IND_DL_288_67) = 'S' OR trim(t.IND_SUSP_PIS_COFINS) = 'S' "
+                          "THEN 'S' END");
+const QString ComImportacao = s("p.grupo = 'S'");
+
+void copiaItens(CopiadorLinhas& l)
 {
-    QSqlQuery& q = l.executa(s("SELECT IND_DL_288_67, IND_SUSP_PIS_COFINS FROM %1 WHERE ID_ITEM_DI = ?").arg(tabela),
-                             {idDi});
-    bool leva = false;
-    if (q.next())
-        leva = q.value(0).toString().trimmed() == QLatin1String("S") || q.value(1).toString().trimmed() == QLatin1String("S");
-    q.finish();
-    return leva;
+    l.copia({s("ITEM_VRT_MEN"), ID, MapaVrt, s("t.IND_MOD_INTERNACAO IN ('4', '2', '1', '3')"),
+             s("CASE t.IND_MOD_INTERNACAO WHEN '4' THEN 0 WHEN '2' THEN 1 WHEN '1' THEN 2 ELSE 3 END"), s("ITEM"),
+             s("t.IND_MOD_INTERNACAO")});
 }
 
-void copiaDi(CopiadorLinhas& l, const QString& tabela, const QString& tabela288, const QVariant& idDi,
-             const QString& pai, const QVariant& novoPai)
+void copiaModalidade2(CopiadorLinhas& l)
 {
-    const QVariant novoDi = l.copiaUma(tabela, s("ID_ITEM_DI"), idDi, pai, novoPai);
-    if (levaImportacao288(l, tabela, idDi))
-        l.copiaTodas(tabela288, s("ID_ITEM_DI"), idDi, novoDi);
+    l.copia({s("ITEM_VRT_MEN_PI_COM_PPB"), ID_ITEM, s("ITEM"), daModalidade("'2'")});
+    // The destinations of the three modalities that have them, in the order of their items.
+    l.copia({s("DESTINO_ITEM_VRT_MEN"), ID_ITEM, s("ITEM"), daModalidade("'2', '1', '3'"), {}, s("DESTINO"),
+             s("p.grupo")});
 }
 
-void copiaModalidade2(CopiaEmCurso& c, const QVariant& item)
+void copiaModalidade1(CopiadorLinhas& l)
+{
+    const QString modalidade1 = daModalidade("'1'");
+    l.copia({s("JUST_DIF_ALIQ_PROD_VRT_MEN"), ID_ITEM, s("ITEM"), modalidade1});
+    l.copia({s("ITEM_DI_PE_MEN"), ID_DESTINO, s("DESTINO"), modalidade1, {}, s("DI_PE"), Leva288});
+    l.copia({s("ITEM_IMPORT_288_PE_MEN"), ID_DI, s("DI_PE"), ComImportacao});
+    l.copia({s("ITEM_DSI_PE_MEN"), ID_DESTINO, s("DESTINO"), modalidade1});
+    l.copia({s("ITEM_NFA_PE_MEN"), ID_DESTINO, s("DESTINO"), modalidade1});
+}
+
+// NCM_VRT and INSUMO_VRT hold one row per NCM and per input of the declaration: each row goes with the first
+// item of modality "3" that names it, in the order of the items.
+void copiaModalidade3(CopiaEmCurso& c)
 {
     CopiadorLinhas& l = c.linhas();
-    const QVariant novo = l.copiaUma(ITEM, ID_ITEM, item, ID, c.nova());
-    l.copiaTodas(s("ITEM_VRT_MEN_PI_COM_PPB"), ID_ITEM, item, novo);
-    l.copiaTodas(s("DESTINO_ITEM_VRT_MEN"), ID_ITEM, item, novo);
-}
-
-void copiaModalidade1(CopiaEmCurso& c, const QVariant& item)
-{
-    CopiadorLinhas& l = c.linhas();
-    const QVariant novo = l.copiaUma(ITEM, ID_ITEM, item, ID, c.nova());
-    l.copiaTodas(s("JUST_DIF_ALIQ_PROD_VRT_MEN"), ID_ITEM, item, novo);
-    const QString destino = s("DESTINO_ITEM_VRT_MEN");
-    const QString idDestino = s("ID_DEST_PRODUTO");
-    for (const QVariant& d : l.chaves(destino, idDestino, ID_ITEM, item)) {
-        const QVariant novoDestino = l.copiaUma(destino, idDestino, d, ID_ITEM, novo);
-        for (const QVariant& di : l.chaves(s("ITEM_DI_PE_MEN"), s("ID_ITEM_DI"), idDestino, d))
-            copiaDi(l, s("ITEM_DI_PE_MEN"), s("ITEM_IMPORT_288_PE_MEN"), di, idDestino, novoDestino);
-        l.copiaTodas(s("ITEM_DSI_PE_MEN"), idDestino, d, novoDestino);
-        l.copiaTodas(s("ITEM_NFA_PE_MEN"), idDestino, d, novoDestino);
-    }
-}
-
-// NCM_VRT and INSUMO_VRT hold one row per NCM and per input of the declaration: an item whose NCM or input an
-// earlier item of the copy already brought adds no second row.
-void copiaModalidade3(CopiaEmCurso& c, const QVariant& item)
-{
-    CopiadorLinhas& l = c.linhas();
-    const QVariant novo = l.copiaUma(ITEM, ID_ITEM, item, ID, c.nova());
+    const QString itens = CopiadorLinhas::tabelaMapa(s("ITEM"));
     l.executa(s("INSERT INTO NCM_VRT (ID_VRT_MICRO, IN_MOD_INTERNACAO, CD_NCM_PRODUTO, QT_TOTAL_NCM) "
                 "SELECT ?, n.IN_MOD_INTERNACAO, n.CD_NCM_PRODUTO, n.QT_TOTAL_NCM FROM NCM_VRT n "
-                "JOIN ITEM_VRT_MEN i ON i.CD_NCM_PRODUTO = n.CD_NCM_PRODUTO "
-                "WHERE i.ID_ITEM_VRT = ? AND n.ID_VRT_MICRO = ? AND n.IN_MOD_INTERNACAO = '3' AND NOT EXISTS "
-                "(SELECT 1 FROM NCM_VRT x WHERE x.ID_VRT_MICRO = ? AND x.IN_MOD_INTERNACAO = '3' "
-                "AND x.CD_NCM_PRODUTO = n.CD_NCM_PRODUTO)"),
-              {c.nova(), item, c.origem(), c.nova()});
-    l.copiaTodas(s("DESTINO_ITEM_VRT_MEN"), ID_ITEM, item, novo);
-    const QString insumo = s("INSUMO_ITEM_VRT_MEN");
-    const QString idInsumo = s("ID_INSUMO_ITEM");
-    for (const QVariant& ins : l.chaves(insumo, idInsumo, ID_ITEM, item)) {
-        const QVariant novoInsumo = l.copiaUma(insumo, idInsumo, ins, ID_ITEM, novo);
-        l.copiaTodas(s("JUST_DIF_ALIQ_INS_VRT_MEN"), idInsumo, ins, novoInsumo);
-    }
+                "JOIN (SELECT i.CD_NCM_PRODUTO AS ncm, min(m.ordem) AS primeiro FROM %1 m "
+                "JOIN ITEM_VRT_MEN i ON i.ID_ITEM_VRT = m.antigo WHERE m.grupo = '3' GROUP BY i.CD_NCM_PRODUTO) u "
+                "ON u.ncm = n.CD_NCM_PRODUTO WHERE n.ID_VRT_MICRO = ? AND n.IN_MOD_INTERNACAO = '3' "
+                "ORDER BY u.primeiro")
+                  .arg(itens),
+              {c.nova(), c.origem()});
+    l.copia({s("INSUMO_ITEM_VRT_MEN"), ID_ITEM, s("ITEM"), daModalidade("'3'"), {}, s("INSUMO")});
+    l.copia({s("JUST_DIF_ALIQ_INS_VRT_MEN"), s("ID_INSUMO_ITEM"), s("INSUMO")});
     l.executa(s("INSERT INTO INSUMO_VRT (ID_VRT_MICRO, CD_INT_INSUMO, QT_TOT_INS_EST) "
-                "SELECT ?, v.CD_INT_INSUMO, v.QT_TOT_INS_EST FROM INSUMO_VRT v WHERE v.ID_VRT_MICRO = ? "
-                "AND v.CD_INT_INSUMO IN (SELECT CD_INT_INSUMO FROM INSUMO_ITEM_VRT_MEN WHERE ID_ITEM_VRT = ?) "
-                "AND NOT EXISTS (SELECT 1 FROM INSUMO_VRT x WHERE x.ID_VRT_MICRO = ? "
-                "AND x.CD_INT_INSUMO = v.CD_INT_INSUMO) ORDER BY v.rowid"),
-              {c.nova(), c.origem(), item, c.nova()});
+                "SELECT ?, v.CD_INT_INSUMO, v.QT_TOT_INS_EST FROM INSUMO_VRT v "
+                "JOIN (SELECT n.CD_INT_INSUMO AS insumo, min(m.ordem) AS primeiro FROM %1 m "
+                "JOIN INSUMO_ITEM_VRT_MEN n ON n.ID_ITEM_VRT = m.antigo WHERE m.grupo = '3' "
+                "GROUP BY n.CD_INT_INSUMO) u ON u.insumo = v.CD_INT_INSUMO WHERE v.ID_VRT_MICRO = ? "
+                "ORDER BY u.primeiro, v.rowid")
+                  .arg(itens),
+              {c.nova(), c.origem()});
 }
 
-void copiaDocumentosInsumo(CopiaEmCurso& c)
+void copiaDocumentosInsumo(CopiadorLinhas& l)
 {
-    CopiadorLinhas& l = c.linhas();
-    for (const QVariant& di : l.chaves(s("ITEM_DI_INS_MEN"), s("ID_ITEM_DI"), ID, c.origem()))
-        copiaDi(l, s("ITEM_DI_INS_MEN"), s("ITEM_IMPORT_288_INS_MEN"), di, ID, c.nova());
-    l.copiaTodas(s("ITEM_DSI_INS_MEN"), ID, c.origem(), c.nova());
-    l.copiaTodas(s("ITEM_NFA_INS_MEN"), ID, c.origem(), c.nova());
-}
-
-void copiaItens(CopiaEmCurso& c, char modalidade, void (*copiaItem)(CopiaEmCurso&, const QVariant&))
-{
-    for (const QVariant& item : c.linhas().chaves(ITEM, ID_ITEM, ID, c.origem(), filtroModalidade(modalidade)))
-        copiaItem(c, item);
+    l.copia({s("ITEM_DI_INS_MEN"), ID, MapaVrt, {}, {}, s("DI_INS"), Leva288});
+    l.copia({s("ITEM_IMPORT_288_INS_MEN"), ID_DI, s("DI_INS"), ComImportacao});
+    l.copia({s("ITEM_DSI_INS_MEN"), ID, MapaVrt});
+    l.copia({s("ITEM_NFA_INS_MEN"), ID, MapaVrt});
 }
 
 }  // namespace
@@ -116,20 +96,18 @@ void ExecutaCopiaVrtMensal(const Pedido& pedido, const Acompanhamento& acompanha
     AvancaNumeroMensal();
     c.copiaCabeca();
     // "Original" leaves the reference month to be entered anew, so the copy never stands for the same month.
-    c.linhas().executa(s("INSERT INTO VRT_MENSAL (ID_VRT_MICRO, DT_REFERENCIA_VRT) "
-                         "SELECT ?, %1 FROM VRT_MENSAL WHERE ID_VRT_MICRO = ?")
-                           .arg(c.retificadora() ? s("DT_REFERENCIA_VRT") : s("''")),
-                       {c.nova(), c.origem()});
+    c.linhas().copia({s("VRT_MENSAL"), ID, MapaVrt, {}, {}, {}, {},
+                      {{s("DT_REFERENCIA_VRT"), c.retificadora() ? s("t.DT_REFERENCIA_VRT") : s("''")}}});
     c.avanca(15);
-    c.linhas().copiaTodas(ITEM, ID, c.origem(), c.nova(), filtroModalidade('4'));
+    copiaItens(c.linhas());
     c.avanca(30);
-    copiaItens(c, '2', copiaModalidade2);
+    copiaModalidade2(c.linhas());
     c.avanca(45);
-    copiaItens(c, '1', copiaModalidade1);
+    copiaModalidade1(c.linhas());
     c.avanca(65);
-    copiaItens(c, '3', copiaModalidade3);
+    copiaModalidade3(c);
     c.avanca(85);
-    copiaDocumentosInsumo(c);
+    copiaDocumentosInsumo(c.linhas());
     c.conclui(s("VRT Mensal copiada com sucesso!"));
 }
 

@@ -3,7 +3,6 @@
 #include "core/store/modBancoDados.h"
 
 #include <QSqlError>
-#include <QSqlRecord>
 
 using namespace modBancoDados;
 
@@ -83,39 +82,75 @@ QStringList CopiadorLinhas::colunasCopiadas(const QString& tabela, const QString
     return r;
 }
 
-void CopiadorLinhas::copiaTodas(const QString& tabela, const QString& pai, const QVariant& antigo,
-                                const QVariant& novo, const QString& filtro)
+QString CopiadorLinhas::tabelaMapa(const QString& mapa)
 {
-    const QString lista = colunasCopiadas(tabela, pai).join(QLatin1String(", "));
-    QString sql = QStringLiteral("INSERT INTO %1 (%2, %3) SELECT ?, %3 FROM %1 WHERE %2 = ?").arg(tabela, pai, lista);
-    if (!filtro.isEmpty())
-        sql += QStringLiteral(" AND ") + filtro;
-    // In the order the rows were made, which is the order the writer reads them in; a key's index would give
-    // another.
-    sql += QStringLiteral(" ORDER BY rowid");
-    executa(sql, {novo, antigo});
+    return QStringLiteral("temp.MAPA_COPIA_") + mapa;
 }
 
-QVariant CopiadorLinhas::copiaUma(const QString& tabela, const QString& chave, const QVariant& antigaChave,
-                                  const QString& pai, const QVariant& novo)
+// `ordem` numbers the rows of the map from 1 in the order they go in; the new key is that number past the
+// table's last key. The keys are typed as the table's own: a key without a type would compare to the children's
+// column under another affinity, and the index on `antigo` would go unused (a scan of the map for every row).
+void CopiadorLinhas::criaMapa(const QString& mapa, const QString& tipo)
 {
-    const QString lista = colunasCopiadas(tabela, pai).join(QLatin1String(", "));
-    executa(QStringLiteral("INSERT INTO %1 (%2, %3) SELECT ?, %3 FROM %1 WHERE %4 = ?").arg(tabela, pai, lista, chave),
-            {novo, antigaChave});
-    return valor(QStringLiteral("SELECT max(%1) FROM %2").arg(chave, tabela));
+    const QString tabela = tabelaMapa(mapa);
+    executa(QStringLiteral("DROP TABLE IF EXISTS ") + tabela);
+    executa(QStringLiteral("CREATE TABLE %1 (ordem INTEGER PRIMARY KEY, antigo %2 UNIQUE, novo %2, grupo TEXT)")
+                .arg(tabela, tipo));
+    if (!m_mapas.contains(tabela))
+        m_mapas << tabela;
 }
 
-QVariantList CopiadorLinhas::chaves(const QString& tabela, const QString& chave, const QString& pai,
-                                    const QVariant& antigo, const QString& filtro)
+void CopiadorLinhas::raiz(const QString& mapa, const QVariant& antigo, const QVariant& novo)
 {
-    QString sql = QStringLiteral("SELECT %1 FROM %2 WHERE %3 = ?").arg(chave, tabela, pai);
-    if (!filtro.isEmpty())
-        sql += QStringLiteral(" AND ") + filtro;
-    sql += QStringLiteral(" ORDER BY ") + chave;
-    QSqlQuery& q = executa(sql, {antigo});
-    QVariantList r;
-    while (q.next())
-        r << q.value(0);
-    q.finish();
-    return r;
+    criaMapa(mapa, QStringLiteral("TEXT"));
+    executa(QStringLiteral("INSERT INTO %1 (antigo, novo) VALUES (?, ?)").arg(tabelaMapa(mapa)), {antigo, novo});
+}
+
+void CopiadorLinhas::encerra()
+{
+    for (const QString& tabela : std::as_const(m_mapas))
+        executa(QStringLiteral("DROP TABLE IF EXISTS ") + tabela);
+    m_mapas.clear();
+}
+
+// The key the engine would give next, less one: the table's counter never goes back to a key it gave before,
+// even one whose row is gone.
+qint64 CopiadorLinhas::ultimaChave(const QString& tabela, const QString& chave)
+{
+    return valor(QStringLiteral("SELECT max(coalesce((SELECT seq FROM sqlite_sequence WHERE name = ?), 0), "
+                                "coalesce((SELECT max(%1) FROM %2), 0))")
+                     .arg(chave, tabela),
+                 {tabela})
+        .toLongLong();
+}
+
+void CopiadorLinhas::copia(const PassoCopia& passo)
+{
+    const QStringList colunas = colunasCopiadas(passo.tabela, passo.pai);
+    QStringList valores;
+    for (const QString& c : colunas)
+        valores << passo.trocas.value(c, QStringLiteral("t.") + c);
+    const QString lista = colunas.join(QLatin1String(", "));
+    const QString selecao = valores.join(QLatin1String(", "));
+    const QString pais = tabelaMapa(passo.mapaPai);
+    const QString origem = QStringLiteral(" FROM %1 t JOIN %2 p ON t.%3 = p.antigo").arg(passo.tabela, pais, passo.pai)
+                           + (passo.onde.isEmpty() ? QString() : QStringLiteral(" WHERE ") + passo.onde);
+    const QString ordem = QStringLiteral(" ORDER BY p.novo, ") + (passo.ordem.isEmpty() ? QString() : passo.ordem + QStringLiteral(", "))
+                          + QStringLiteral("t.rowid");
+    if (passo.mapa.isEmpty()) {
+        executa(QStringLiteral("INSERT INTO %1 (%2, %3) SELECT p.novo, %4").arg(passo.tabela, passo.pai, lista, selecao)
+                + origem + ordem);
+        return;
+    }
+    const QString chave = contador(passo.tabela);
+    if (chave.isEmpty() || chave == passo.pai)
+        BDTrataErro(QStringLiteral("3078"), QStringLiteral("Tabela sem contador próprio: ") + passo.tabela);
+    criaMapa(passo.mapa, QStringLiteral("INTEGER"));
+    const QString mapa = tabelaMapa(passo.mapa);
+    executa(QStringLiteral("INSERT INTO %1 (antigo, grupo) SELECT t.%2, %3").arg(mapa, chave, passo.grupo.isEmpty() ? QStringLiteral("NULL") : passo.grupo)
+            + origem + ordem);
+    executa(QStringLiteral("UPDATE %1 SET novo = ordem + ?").arg(mapa), {ultimaChave(passo.tabela, chave)});
+    executa(QStringLiteral("INSERT INTO %1 (%2, %3, %4) SELECT m.novo, p.novo, %5 FROM %6 m JOIN %1 t ON t.%2 = m.antigo "
+                           "JOIN %7 p ON t.%3 = p.antigo ORDER BY m.ordem")
+                .arg(passo.tabela, chave, passo.pai, lista, selecao, mapa, pais));
 }

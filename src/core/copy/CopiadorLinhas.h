@@ -1,8 +1,14 @@
 #pragma once
-// Copies rows of a declaration's tables under a new parent, with every value bound. The columns copied are the
-// table's own, read from the schema, less the parent column (given anew) and the table's own counter (made anew
-// by the engine). Statements are prepared once per run: a copy of ten thousand items runs the same few over and
-// over. A failed statement ends the run through BDTrataErro, and the open transaction goes with it.
+// Copies the rows of a declaration's tables under new parents, a table at a time: one INSERT ... SELECT moves
+// every row of a table, whatever the number of items. The new keys of a table that has children are kept in a
+// key map, a temporary table of the old counter and the new, which the children's statement joins to find their
+// new parent. The columns copied are the table's own, read from the schema, less the parent column (given anew)
+// and the table's own counter (made anew). A failed statement ends the run through BDTrataErro, and the open
+// transaction goes with it.
+//
+// The rows go in, and the counters are given, in the order a copy made row by row would give them: parent by
+// parent in the order of the parents' new keys, and under one parent in the order the rows were made. That is the
+// order the writer reads them in.
 #include <QHash>
 #include <QSqlQuery>
 #include <QString>
@@ -11,6 +17,23 @@
 #include <QVariantList>
 #include <memory>
 
+// One table of a copy.
+struct PassoCopia {
+    QString tabela;
+    QString pai;      // the column that names the parent
+    QString mapaPai;  // the key map of the parents (see CopiadorLinhas::raiz)
+    // A further condition, on `t` (the row copied) and `p` (its parent's row in the map: antigo, novo, grupo).
+    QString onde;
+    // An order of the rows of one parent that comes before the order they were made in.
+    QString ordem;
+    // When set, the key map this table gives its children, named so.
+    QString mapa;
+    // With `mapa`: a value kept beside each key (an expression on t and p) for the children's `onde`.
+    QString grupo;
+    // Columns that take an expression in place of the copied value ("''" to leave them empty).
+    QHash<QString, QString> trocas;
+};
+
 class CopiadorLinhas {
 public:
     CopiadorLinhas();
@@ -18,20 +41,16 @@ public:
     CopiadorLinhas(const CopiadorLinhas&) = delete;
     CopiadorLinhas& operator=(const CopiadorLinhas&) = delete;
 
-    // "INSERT INTO tabela (pai, ...) SELECT novo, ... FROM tabela WHERE pai = antigo [AND filtro]", in the order
-    // the rows were made.
-    void copiaTodas(const QString& tabela, const QString& pai, const QVariant& antigo, const QVariant& novo,
-                    const QString& filtro = QString());
-    // The row whose counter `chave` is `antigaChave` goes in again under the parent `novo`; gives the new row's
-    // counter, fetched by "SELECT max(chave) FROM tabela" right after the insert.
-    QVariant copiaUma(const QString& tabela, const QString& chave, const QVariant& antigaChave, const QString& pai,
-                      const QVariant& novo);
-    // The counters of the rows under `antigo` (with the optional filter), in their order.
-    QVariantList chaves(const QString& tabela, const QString& chave, const QString& pai, const QVariant& antigo,
-                        const QString& filtro = QString());
+    // The map that starts a copy: the one parent `antigo`, a text key, copied as `novo`.
+    void raiz(const QString& mapa, const QVariant& antigo, const QVariant& novo);
+    // Copies the rows of one table, in one statement (three for a table that makes a map).
+    void copia(const PassoCopia& passo);
+    // The temporary table that holds the map `mapa`, for statements of the caller's own.
+    static QString tabelaMapa(const QString& mapa);
+    // Drops the maps; called before the commit, so that the connection goes on without them.
+    void encerra();
 
-    // Runs a statement, prepared once; for a query, the caller reads the rows before the next call with the same
-    // text.
+    // Runs a statement, prepared once.
     QSqlQuery& executa(const QString& sql, const QVariantList& valores = {});
     // First column of the first row, or an invalid QVariant without rows.
     QVariant valor(const QString& sql, const QVariantList& valores = {});
@@ -43,7 +62,10 @@ public:
 
 private:
     void leEsquema(const QString& tabela);
+    void criaMapa(const QString& mapa, const QString& tipo);
+    qint64 ultimaChave(const QString& tabela, const QString& chave);
     QHash<QString, QStringList> m_colunas;
     QHash<QString, QString> m_contador;
     QHash<QString, std::shared_ptr<QSqlQuery>> m_consultas;
+    QStringList m_mapas;
 };

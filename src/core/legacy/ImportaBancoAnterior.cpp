@@ -87,7 +87,11 @@ private:
                                                   "versão 1.0.").arg(c.nome, tabela)};
             }
         }
-        // A fiscal operation a former import brought stays as it is: this table is not emptied first.
+        // OPERACAO_FISCAL is the one table the import fills without emptying it first, and the database comes
+        // delivered with its rows, which an old file holds as well under the same codes. A plain insert would
+        // stop at the first code already present and, the failure ending the run, no old database could ever be
+        // brought in. So a code already present keeps its row (the delivered text) and the old file adds only the
+        // codes the present table lacks: the table is never emptied, as the import has it, and the run goes on.
         const QString verbo = tabela == QLatin1String("OPERACAO_FISCAL") ? QStringLiteral("INSERT OR IGNORE INTO ")
                                                                           : QStringLiteral("INSERT INTO ");
         const QString sql = verbo + tabela + QStringLiteral(" (") + nomes.join(QLatin1String(", "))

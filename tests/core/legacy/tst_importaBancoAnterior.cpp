@@ -344,6 +344,32 @@ private slots:
         QCOMPARE(BancoTeste::valor("SELECT VL_COFINS FROM DESTINO_ITEM_VRT_MEN WHERE ID_DEST_PRODUTO = 9").toString(),
                  "0,0000000");
     }
+
+    // The fiscal operations are not emptied before the old file's go in: a code the database already holds keeps
+    // its row, and a code it lacks comes from the old file.
+    void operacaoFiscalPresenteFicaEANovaEntra()
+    {
+        BancoTeste banco;
+        BancoTeste::executa("INSERT OR REPLACE INTO OPERACAO_FISCAL (CD_OP_FISCAL, IN_ENTRADA_SAIDA, DESCR_OP_FISCAL) "
+                            "VALUES ('5101', 'S', 'Venda presente')");
+        const int antes = BancoTeste::valor("SELECT count(*) FROM OPERACAO_FISCAL").toInt();
+        QList<TabelaJet> antigo = Vazio();
+        Insere(antigo, "VRT", {{"ID_VRT_MICRO", "00001/08"}, {"CD_TIPO_VRT", "1"}, {"NR_VRT", " "}});
+        Insere(antigo, "OPERACAO_FISCAL", {{"CD_OP_FISCAL", "5101"}, {"IN_ENTRADA_SAIDA", "S"},
+                                           {"DESCR_OP_FISCAL", "Venda antiga"}});
+        Insere(antigo, "OPERACAO_FISCAL", {{"CD_OP_FISCAL", "9Z9Z"}, {"IN_ENTRADA_SAIDA", "E"},
+                                           {"DESCR_OP_FISCAL", "Só no arquivo antigo"}});
+        QVERIFY(!gravaAntigo(antigo).isEmpty());
+
+        MensagensRoteiro msgs;
+        msgs.responde(Msg::Yes).responde(Msg::Yes);
+        QVERIFY(BancoAnterior::ImportaBancoAnterior(m_pasta.path(), Nome));
+        QCOMPARE(BancoTeste::valor("SELECT DESCR_OP_FISCAL FROM OPERACAO_FISCAL WHERE CD_OP_FISCAL = '5101'").toString(),
+                 "Venda presente");
+        QCOMPARE(BancoTeste::valor("SELECT DESCR_OP_FISCAL FROM OPERACAO_FISCAL WHERE CD_OP_FISCAL = '9Z9Z'").toString(),
+                 "Só no arquivo antigo");
+        QCOMPARE(BancoTeste::valor("SELECT count(*) FROM OPERACAO_FISCAL").toInt(), antes + 1);
+    }
 };
 
 QTEST_GUILESS_MAIN(tst_importaBancoAnterior)
