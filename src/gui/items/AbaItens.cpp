@@ -1,5 +1,7 @@
 #include "gui/items/AbaItens.h"
 
+#include <QScrollArea>
+
 #include "gui/items/CabecalhoNota.h"
 
 #include <QVBoxLayout>
@@ -25,4 +27,13 @@ QVariant AbaItens::pai() const
     if (m_ctx.individual)
         return m_ctx.idNfs ? QVariant(m_ctx.idNfs()) : QVariant();
     return m_ctx.idVrt ? QVariant(m_ctx.idVrt()) : QVariant();
+}
+
+QWidget* PaginaRolavel(QWidget* pagina, QWidget* pai)
+{
+    auto* area = new QScrollArea(pai);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setWidget(pagina);
+    return area;
 }

@@ -23,6 +23,9 @@ struct ContextoItens {
     std::function<NotaSaida()> nota;  // the invoice as last written (individual)
 };
 
+// A tall page of an item tab scrolls, so that it does not make the editor taller than the main window.
+QWidget* PaginaRolavel(QWidget* pagina, QWidget* pai);
+
 class AbaItens : public QWidget {
     Q_OBJECT
 public:

@@ -13,7 +13,6 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QScrollArea>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -40,25 +39,15 @@ AbaPIsemPPB::AbaPIsemPPB(const ContextoItens& contexto, QWidget* parent)
     m_produto->constroi(paginaProduto);
     CamposItem::registraDestinos(*m_produto);
     tabPIsemPPB->addTab(paginaProduto, QStringLiteral("Produto"));
-    tabPIsemPPB->addTab(rolagem(paginaInsumos()), QStringLiteral("Insumos"));
+    tabPIsemPPB->addTab(PaginaRolavel(paginaInsumos(), this), QStringLiteral("Insumos"));
 
     documentos = new PaginaDocumentosInsumo(ind, idVrt, [this] { return pai().toLongLong(); }, this);
     documentos->setObjectName(QStringLiteral("tabPIsemPPB(2)"));
-    tabPIsemPPB->addTab(rolagem(documentos), QStringLiteral("Documentos de Origem"));
+    tabPIsemPPB->addTab(PaginaRolavel(documentos, this), QStringLiteral("Documentos de Origem"));
     corpo()->addWidget(tabPIsemPPB, 1);
 
     connect(tabPIsemPPB, &QTabWidget::currentChanged, this, &AbaPIsemPPB::trocaPagina);
     connect(documentos, &PaginaDocumentosInsumo::voltaProduto, this, &AbaPIsemPPB::volta);
-}
-
-// The two taller pages scroll, so that they do not make the editor taller than the main window.
-QWidget* AbaPIsemPPB::rolagem(QWidget* pagina)
-{
-    auto* area = new QScrollArea(this);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setWidget(pagina);
-    return area;
 }
 
 QWidget* AbaPIsemPPB::paginaInsumos()

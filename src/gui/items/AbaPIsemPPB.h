@@ -29,7 +29,6 @@ public:
 
 private:
     QWidget* paginaInsumos();
-    QWidget* rolagem(QWidget* pagina);
     void trocaPagina(int indice);
     // Entering "Insumos": the product list refilled, nothing chosen; false (after its message) without products.
     bool entraInsumos();

@@ -23,8 +23,8 @@ AbaProdutoEstrangeiro::AbaProdutoEstrangeiro(const ContextoItens& contexto, QWid
     connect(produto, &ExecutorBloco::recusou, this, &AbaProdutoEstrangeiro::mostraProduto);
     documentoOrigem = new PaginaDocumentoOrigem(contexto.individual, contexto.idVrt, contexto.idNfs);
     documentoOrigem->setObjectName(QStringLiteral("tabProdutoEstrangeiro(1)"));
-    tabProdutoEstrangeiro->addTab(pagina, QStringLiteral("Produto"));
-    tabProdutoEstrangeiro->addTab(documentoOrigem, QString::fromUtf8("Documento de Origem"));
+    tabProdutoEstrangeiro->addTab(PaginaRolavel(pagina, this), QStringLiteral("Produto"));
+    tabProdutoEstrangeiro->addTab(PaginaRolavel(documentoOrigem, this), QString::fromUtf8("Documento de Origem"));
     corpo()->addWidget(tabProdutoEstrangeiro, 1);
     connect(tabProdutoEstrangeiro, &QTabWidget::currentChanged, this, &AbaProdutoEstrangeiro::trocaPagina);
     connect(documentoOrigem, &PaginaDocumentoOrigem::voltaProduto, this, [this] {

@@ -119,9 +119,8 @@ private slots:
         ConsultGrid* g = c.quadro()->grade;
         QStringList vistos;
         for (int i = 0; i < g->columnCount(); ++i)
-            if (!g->isColumnHidden(i) && g->horizontalHeader()->sectionSize(i) > 0 && g->horizontalHeaderItem(i)
-                && !g->horizontalHeaderItem(i)->text().isEmpty())
-                vistos << g->horizontalHeaderItem(i)->text();
+            if (!g->isColumnHidden(i) && g->horizontalHeader()->sectionSize(i) > 0 && !g->titleText(i).isEmpty())
+                vistos << g->titleText(i);
         QCOMPARE(vistos, titulos);
         QCOMPARE(a.msgs.inesperadas, 0);
     }
