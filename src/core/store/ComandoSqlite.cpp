@@ -218,6 +218,23 @@ int ComandoSqlite::colunas() const
     return sqlite3_column_count(m_stmt);
 }
 
+QString ComandoSqlite::nomeColuna(int coluna) const
+{
+    return QString::fromUtf8(sqlite3_column_name(m_stmt, coluna));
+}
+
+bool ComandoSqlite::utf8(int coluna, QByteArrayView& texto) const
+{
+    const int tipo = sqlite3_column_type(m_stmt, coluna);
+    if (tipo != SQLITE_TEXT && tipo != SQLITE_INTEGER) {
+        texto = QByteArrayView();
+        return false;
+    }
+    const auto* t = reinterpret_cast<const char*>(sqlite3_column_text(m_stmt, coluna));
+    texto = QByteArrayView(t, sqlite3_column_bytes(m_stmt, coluna));
+    return true;
+}
+
 QString ComandoSqlite::texto(int coluna) const
 {
     switch (sqlite3_column_type(m_stmt, coluna)) {

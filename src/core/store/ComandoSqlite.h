@@ -12,6 +12,7 @@
 // Values and errors are what QSqlQuery gives for the same statement: a bound null QVariant (a null QString
 // included) is NULL; a column comes back as qint64, double, QString or QByteArray by its stored type, a NULL
 // as a null QString; a refused statement gives a QSqlError with SQLite's extended code and message.
+#include <QByteArrayView>
 #include <QSqlError>
 #include <QString>
 #include <QStringView>
@@ -56,6 +57,12 @@ public:
     qint64 inteiro(int coluna) const;
     // How many columns the statement gives.
     int colunas() const;
+    // The name the engine gives a column of the result: its alias, else the column's own name.
+    QString nomeColuna(int coluna) const;
+    // The current row's column without any conversion, for code that composes bytes: true with the engine's
+    // UTF-8 for a text or an integer (its digits, as texto() gives them), false for a NULL (`texto` empty) and
+    // for a real or a blob, which only valor()/texto() tell as QSqlQuery would. Valid until the next step.
+    bool utf8(int coluna, QByteArrayView& texto) const;
 
     // Key that the engine gave the last row inserted on this connection, or an invalid QVariant (no row yet).
     QVariant ultimaChave() const;

@@ -32,8 +32,17 @@ bool CampoLayout::numerico() const
     }
 }
 
+void LayoutRegistro::indexa()
+{
+    m_indices.clear();
+    for (int i = 0; i < campos.size(); ++i)
+        m_indices.insert(campos.at(i).nome, i);
+}
+
 int LayoutRegistro::indice(const QString& nome) const
 {
+    if (!m_indices.isEmpty())
+        return m_indices.value(nome, -1);
     for (int i = 0; i < campos.size(); ++i) {
         if (campos.at(i).nome == nome)
             return i;

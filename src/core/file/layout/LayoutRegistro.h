@@ -16,6 +16,7 @@
 // "FIXO_<pos>" (other constants). Repeated columns get a suffix: the four destination pairs of record 31 are
 // "CD_LOCAL_DESTINO_1".."_4" and "QT_PROD_LOC_DEST_1".."_4"; the slots of records 02 and 03 are
 // "IND_MANDADO_01".."_35", "VL_MANDADO_01".."_35" and "VL_RETIF_01".."_33" (see SlotsValores.h for their codes).
+#include <QHash>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -77,8 +78,11 @@ public:
     const CampoLayout& campo(const QString& nome) const;
     // The field of that name, or nullptr.
     const CampoLayout* procura(const QString& nome) const;
-    // Index of the field in `campos`, or -1.
+    // Index of the field in `campos`, or -1: hashed once the layout is built (MontaLayout::pronto), a scan of
+    // `campos` for a layout put together by hand.
     int indice(const QString& nome) const;
+    // Fills the hash of indice() from `campos`.
+    void indexa();
 
     // The layout of a record type for a declaration type; an unknown type is a programming error (qFatal).
     static const LayoutRegistro& de(TipoDeclaracao declaracao, const QString& tipo);
@@ -90,4 +94,7 @@ public:
     static const QStringList& tipos();
     // Kind names as written in the layout tables ("N", "D5", ...), for messages of the checker.
     static QString nomeTipo(TipoCampo tipo);
+
+private:
+    QHash<QString, int> m_indices;
 };

@@ -95,5 +95,7 @@ LayoutRegistro MontaLayout::pronto() const
     }
     if (proxima != m_registro.tamanho + 1)
         qFatal("Registro %s: os campos somam %d posições", qPrintable(m_registro.tipo), proxima - 1);
-    return m_registro;
+    LayoutRegistro pronto = m_registro;
+    pronto.indexa();
+    return pronto;
 }

@@ -19,6 +19,8 @@ public:
     void avanca();
     QString texto(int coluna) const { return m_rs.texto(coluna); }
     QVariant valor(int coluna) const { return m_rs.valor(coluna); }
+    // The current row, for LinhaRegistro::preenche and MapaColunas.
+    const ComandoSqlite& linha() const { return m_rs; }
 
 private:
     ComandoSqlite m_rs;

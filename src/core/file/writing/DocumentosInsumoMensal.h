@@ -1,37 +1,38 @@
 #pragma once
 // The entry documents of the inputs of a monthly declaration (records 34, 35, 36). They belong to the
 // declaration, an input and a destination, not to one product, so every product that uses the input writes
-// them again; they are read once per declaration and looked up by input and destination.
+// them again; they are read and composed once per declaration and looked up by input and destination.
+#include "core/file/writing/LinhaRegistro.h"
+
 #include <QHash>
 #include <QString>
-#include <QStringList>
 #include <QVector>
+
+class SaidaVrt;
 
 class DocumentosInsumoMensal {
 public:
     explicit DocumentosInsumoMensal(const QString& idVrtMicro);
 
-    using Linhas = QVector<QStringList>;
-    // The documents of one input at one destination, each kind in the order its rows were made; the columns
-    // are those of the queries in the .cpp (enums below).
-    struct Grupo {
-        Linhas nfa;
-        Linhas di;
-        Linhas dsi;
-    };
-    const Grupo& de(const QString& insumo, const QString& destino) const;
-
-    enum ColunaNfa { NfaCnpj, NfaSerie, NfaNumero, NfaItem, NfaData, NfaCfop, NfaDl288, NfaQuantidade, NfaValor,
-                     NfaInsumo, NfaDestino };
-    enum ColunaDi { DiNumero, DiAntiga, DiAntigaNula, DiAdicao, DiItemAdicao, DiDl288, DiQuantidade, DiValor,
-                    DiMoeda, DiFrete, DiMoedaFrete, DiSeguro, DiMoedaSeguro, DiInsumo, DiDestino, DiSuspensao };
-    enum ColunaDsi { DsiNumero, DsiAntiga, DsiBem, DsiQuantidade, DsiInsumo, DsiDestino, DsiValor, DsiMoeda,
-                     DsiFrete, DsiMoedaFrete, DsiSeguro, DsiMoedaSeguro, DsiSuspensao };
+    // Writes the documents of one input at one destination: acquisition invoices, DIs, DSIs, each kind in the
+    // order its rows were made.
+    void escreve(SaidaVrt& saida, const QString& insumo, const QString& destino);
 
 private:
+    struct Di {
+        LinhaRegistro linha;
+        bool semAntiga = false;  // the old DI number is missing (Null or one blank)
+    };
+    struct Grupo {
+        QVector<LinhaRegistro> nfa;
+        QVector<Di> di;
+        QVector<LinhaRegistro> dsi;
+    };
     static QString chave(const QString& insumo, const QString& destino);
-    void carrega(Linhas Grupo::*tipo, const QString& sql, const QString& id, int colunas);
+    template <typename Poe>
+    void carrega(int tipo, const QString& sql, const QString& id, Poe poe);
 
     QHash<QString, Grupo> m_grupos;
-    Grupo m_vazio;
+    // The old DI number of the last record 35 that had one: record 35 keeps it when its own is missing.
+    QString m_diAntiga;
 };

@@ -5,85 +5,66 @@
 #include "core/file/writing/GravaVrt.h"
 #include "core/session/MsgBox.h"
 
+#include <QStringList>
+
 namespace EscritaRegistro {
 
-namespace {
-const QString Branco = QStringLiteral(" ");
-const QString S = QStringLiteral("S");
-const QString N = QStringLiteral("N");
-
-template <typename Fonte>
-void poeDe(LinhaRegistro& r, const Fonte& texto, const Colunas& colunas)
+QString se(const QString& condicao, const QString& t, const QString& coluna, const QString& campo)
 {
-    for (const Coluna& c : colunas) {
-        const QString valor = texto(c.coluna);
-        r.poe(c.campo, c.brancoVazio && valor == Branco ? QString() : valor);
-    }
-}
-}  // namespace
-
-Colunas valoresImportacao(const QString& campoValor, const QString& unidade, int primeira)
-{
-    return {{campoValor, primeira},
-            {QStringLiteral("CD_MOEDA_NEG"), primeira + 1},
-            {QStringLiteral("VL_FRETE_UNID_") + unidade, primeira + 2},
-            {QStringLiteral("CD_MOEDA_FRETE"), primeira + 3},
-            {QStringLiteral("VL_SEGURO_UNID_") + unidade, primeira + 4},
-            {QStringLiteral("CD_MOEDA_SEGURO"), primeira + 5}};
+    if (condicao.isEmpty())
+        return t + QLatin1Char('.') + coluna + QStringLiteral(" AS ") + campo;
+    return QStringLiteral("CASE WHEN %1 THEN %2.%3 END AS %4").arg(condicao, t, coluna, campo);
 }
 
-void poe(LinhaRegistro& r, const CursorFilhos& x, const Colunas& colunas)
+QString valoresImportacao(const QString& condicao, const QString& t, const QString& campoValor,
+                          const QString& unidade)
 {
-    poeDe(r, [&x](int i) { return x.texto(i); }, colunas);
+    QStringList colunas;
+    for (const QString& c : {campoValor, QStringLiteral("CD_MOEDA_NEG"), QStringLiteral("VL_FRETE_UNID_") + unidade,
+                             QStringLiteral("CD_MOEDA_FRETE"), QStringLiteral("VL_SEGURO_UNID_") + unidade,
+                             QStringLiteral("CD_MOEDA_SEGURO")})
+        colunas << se(condicao, t, c, c);
+    return colunas.join(QStringLiteral(", "));
 }
 
-void poe(LinhaRegistro& r, const QStringList& x, const Colunas& colunas)
+QString colunas12(const NomesProduto& nomes)
 {
-    poeDe(r, [&x](int i) { return x.at(i); }, colunas);
+    const QString quantidade = nomes.quantidadeBrancoVazio
+                                   ? QStringLiteral("NULLIF(x.%1, ' ') AS %1").arg(nomes.quantidade)
+                                   : QStringLiteral("x.") + nomes.quantidade;
+    return QStringLiteral("x.NR_CNPJ_FORNECEDOR, x.NR_SERIE_NF_AQUIS, x.NR_NF_AQUIS, x.NR_ITEM_NF_AQUIS, "
+                          "x.DT_EMISS_NF_AQUIS, x.CD_CFOP_NF_AQUIS, x.IND_DL_288_67, x.IND_OBSOLE_RESIDUO, ")
+           + quantidade + QStringLiteral(", ")
+           + se(QStringLiteral("x.IND_DL_288_67 = 'S' AND x.IND_OBSOLE_RESIDUO = 'N'"), QStringLiteral("x"),
+                nomes.valorNota, nomes.valorNota)
+           + QStringLiteral(", ")
+           + se(QStringLiteral("x.IND_OBSOLE_RESIDUO = 'S'"), QStringLiteral("x"), nomes.totalObsoleto,
+                nomes.totalObsoleto);
 }
 
-void escreveRegistros12(SaidaVrt& saida, const LayoutRegistro& layout, CursorFilhos& x, qint64 pai,
-                        const NomesProduto& nomes)
+QString colunas14(const NomesProduto& nomes)
 {
-    enum { Cnpj = 1, Serie, Numero, ItemNf, Data, Cfop, Dl288, Obsoleto, Quantidade, Valor, Total };
-    const Colunas campos{{QStringLiteral("NR_CNPJ_FORNECEDOR"), Cnpj},
-                         {QStringLiteral("NR_SERIE_NF_AQUIS"), Serie},
-                         {QStringLiteral("NR_NF_AQUIS"), Numero},
-                         {QStringLiteral("NR_ITEM_NF_AQUIS"), ItemNf},
-                         {QStringLiteral("DT_EMISS_NF_AQUIS"), Data},
-                         {QStringLiteral("CD_CFOP_NF_AQUIS"), Cfop},
-                         {QStringLiteral("IND_DL_288_67"), Dl288},
-                         {QStringLiteral("IND_OBSOLE_RESIDUO"), Obsoleto},
-                         {nomes.quantidade, Quantidade, nomes.quantidadeBrancoVazio}};
-    for (; x.de(pai); x.avanca()) {
-        LinhaRegistro r(layout);
-        poe(r, x, campos);
-        if (x.texto(Dl288) == S && x.texto(Obsoleto) == N)
-            r.poe(nomes.valorNota, x.texto(Valor));
-        if (x.texto(Obsoleto) == S)
-            r.poe(nomes.totalObsoleto, x.texto(Total));
-        saida.escreve(r);
-    }
+    // The import values only under suspension of PIS/COFINS, in both declarations.
+    return QStringLiteral("x.NR_DSI, x.NR_DSI_ANTIGA, x.NR_BEM, x.") + nomes.quantidade + QStringLiteral(", ")
+           + valoresImportacao(QStringLiteral("x.IND_SUSP_PIS_COFINS = 'S'"), QStringLiteral("x"),
+                               QStringLiteral("VL_PROD_UNID_PROD"), QStringLiteral("INT"))
+           + QStringLiteral(", x.IND_SUSP_PIS_COFINS");
 }
 
-void escreveRegistros14(SaidaVrt& saida, const LayoutRegistro& layout, CursorFilhos& x, qint64 pai,
-                        const NomesProduto& nomes)
+RegistrosFilhos::RegistrosFilhos(const LayoutRegistro& layout, const QString& sql, const QVariantList& valores,
+                                 AoCompor aoCompor)
+    : m_cursor(sql, valores), m_linha(layout), m_mapa(layout, m_cursor.linha()), m_aoCompor(std::move(aoCompor))
 {
-    enum { Numero = 1, Antiga, Bem, Quantidade, Valor, Suspensao = Valor + 6 };
-    const Colunas campos{{QStringLiteral("NR_DSI"), Numero},
-                         {QStringLiteral("NR_DSI_ANTIGA"), Antiga},
-                         {QStringLiteral("NR_BEM"), Bem},
-                         {nomes.quantidade, Quantidade}};
-    static const Colunas valores =
-        valoresImportacao(QStringLiteral("VL_PROD_UNID_PROD"), QStringLiteral("INT"), Valor);
-    for (; x.de(pai); x.avanca()) {
-        LinhaRegistro r(layout);
-        poe(r, x, campos);
-        // The import values only under suspension of PIS/COFINS, in both declarations.
-        if (x.texto(Suspensao) == S)
-            poe(r, x, valores);
-        r.poe(QStringLiteral("IND_SUSP_PIS_COFINS"), x.texto(Suspensao));
-        saida.escreve(r);
+}
+
+void RegistrosFilhos::escreve(SaidaVrt& saida, qint64 pai)
+{
+    for (; m_cursor.de(pai); m_cursor.avanca()) {
+        m_linha.limpa();
+        m_linha.preenche(m_cursor.linha(), m_mapa);
+        if (m_aoCompor)
+            m_aoCompor(m_linha, m_cursor.linha());
+        saida.escreve(m_linha);
     }
 }
 

@@ -1,38 +1,35 @@
 #pragma once
-// What the individual and the monthly writers share: a record filled field by field from the columns of a
-// child row, and the frame of writing one declaration's file (open, header records, items, close) around each
-// writer's own items and its own failure messages, which differ between the two on purpose.
+// What the individual and the monthly writers share: records composed from the layouts and the rows of the
+// writers' queries, and the frame of writing one declaration's file (open, header records, items, close)
+// around each writer's own items and its own failure messages, which differ between the two on purpose.
+//
+// A writer's query names each column after the field it fills (an alias where the table's column has another
+// name) and says in SQL when a field is filled at all: "CASE WHEN x.IND_DL_288_67 = 'S' THEN ... END AS ..."
+// for a value written only under a condition, "NULLIF(x.NR_DI, ' ') AS NR_DI" for one blank that leaves the
+// field empty. A NULL is an empty field. The record is then filled by LinhaRegistro::preenche; what no row
+// holds (a destination code, a run's working value) is put by the writer after it.
+#include "core/file/writing/CursorFilhos.h"
 #include "core/file/writing/LinhaRegistro.h"
+#include "core/file/writing/MapaColunas.h"
 #include "core/file/writing/SaidaVrt.h"
 
 #include <QString>
-#include <QStringList>
-#include <QVector>
 #include <functional>
 
 class CabecalhoVrt;
-class CursorFilhos;
 class GravacaoVrt;
 
 namespace EscritaRegistro {
 
-// A field of the record and the column that fills it. With `brancoVazio` a column holding one blank leaves
-// the field empty (zeros for a number) instead of writing the blank.
-struct Coluna {
-    QString campo;
-    int coluna = 0;
-    bool brancoVazio = false;
-};
-using Colunas = QVector<Coluna>;
+// The value of an imported good and its three currencies, as select-list columns from table alias `t`, each
+// only where `condicao` holds (an empty condition: always): `campoValor`, CD_MOEDA_NEG,
+// VL_FRETE_UNID_<unidade>, CD_MOEDA_FRETE, VL_SEGURO_UNID_<unidade>, CD_MOEDA_SEGURO. The unit is "NFS" (per
+// unit of the outgoing invoice) or "INT" (per unit of the product).
+QString valoresImportacao(const QString& condicao, const QString& t, const QString& campoValor,
+                          const QString& unidade);
 
-// The value of an imported good and its three currencies (value, freight, insurance), in six columns from
-// `primeira`: `campoValor`, CD_MOEDA_NEG, VL_FRETE_UNID_<unidade>, CD_MOEDA_FRETE, VL_SEGURO_UNID_<unidade>,
-// CD_MOEDA_SEGURO. The unit is "NFS" (per unit of the outgoing invoice) or "INT" (per unit of the product).
-Colunas valoresImportacao(const QString& campoValor, const QString& unidade, int primeira);
-
-// Each field takes its column's text, in the order given.
-void poe(LinhaRegistro& r, const CursorFilhos& x, const Colunas& colunas);
-void poe(LinhaRegistro& r, const QStringList& x, const Colunas& colunas);
+// The column `coluna` of alias `t` only where `condicao` holds, named `campo`.
+QString se(const QString& condicao, const QString& t, const QString& coluna, const QString& campo);
 
 // The names that differ between the two declarations in the product records 12 and 14: the individual counts
 // per unit of the outgoing invoice (..._NFS), the monthly per unit of product (..._PROD).
@@ -43,13 +40,26 @@ struct NomesProduto {
     QString totalObsoleto;               // record 12: VL_TOT_PROD_INT / VL_TOT_PROD_OBSOLE
 };
 
-// Records 12 (acquisition invoices) and 14 (DSI) of one foreign product, from the rows of `x` under `pai`.
-// Columns of 12: parent, CNPJ, series, number, item, date, CFOP, DL 288, obsolete, quantity, value, total.
-// Columns of 14: parent, number, old number, good, quantity, then the six import values, suspension.
-void escreveRegistros12(SaidaVrt& saida, const LayoutRegistro& layout, CursorFilhos& x, qint64 pai,
-                        const NomesProduto& nomes);
-void escreveRegistros14(SaidaVrt& saida, const LayoutRegistro& layout, CursorFilhos& x, qint64 pai,
-                        const NomesProduto& nomes);
+// The select lists of records 12 (acquisition invoices) and 14 (DSI) of a foreign product over table alias x,
+// after the parent's key: the rules the two declarations share.
+QString colunas12(const NomesProduto& nomes);
+QString colunas14(const NomesProduto& nomes);
+
+// The records of a child table: one per row under a parent, every field from its column; `aoCompor`, when
+// given, finishes each record from the row before it is written.
+class RegistrosFilhos {
+public:
+    using AoCompor = std::function<void(LinhaRegistro&, const ComandoSqlite&)>;
+    RegistrosFilhos(const LayoutRegistro& layout, const QString& sql, const QVariantList& valores,
+                    AoCompor aoCompor = AoCompor());
+    void escreve(SaidaVrt& saida, qint64 pai);
+
+private:
+    CursorFilhos m_cursor;
+    LinhaRegistro m_linha;
+    MapaColunas m_mapa;
+    AoCompor m_aoCompor;
+};
 
 // The text a writer shows for a file error; an empty text lets the error pass and the run reports success.
 using MensagemDoErro = QString (*)(const SaidaVrt::Erro& erro);

@@ -1,34 +1,245 @@
 #include "core/file/writing/LinhaRegistro.h"
 
+#include "core/file/writing/MapaColunas.h"
 #include "core/rules/Formatadores.h"
+#include "core/store/ComandoSqlite.h"
 
 #include <QHash>
 
+#include <cstring>
+
 using namespace Funcoes;
+
+const QByteArray LinhaRegistro::m_nenhuma;
 
 namespace {
 
-// The empty form of every field of a layout, computed once per layout: records are written by the hundred
-// thousand and most of their fields keep it.
-const QVector<QString>& valoresIniciais(const LayoutRegistro& layout)
+// Windows-1252 and Latin-1 agree outside 0x80-0x9F: such a text is its own bytes.
+bool latin1Seguro(const QString& texto)
 {
-    static QHash<const LayoutRegistro*, QVector<QString>> cache;
+    for (const QChar c : texto) {
+        const char16_t u = c.unicode();
+        if (u >= 0x100 || (u >= 0x80 && u < 0xA0))
+            return false;
+    }
+    return true;
+}
+
+// The empty form of a layout, computed once per layout: most fields of a record keep it. `exata` when every
+// empty field has its width in Latin-1, so that the record starts as one line.
+struct FormaVazia {
+    bool exata = true;
+    QByteArray linha;
+    QVector<QString> valores;
+};
+
+const FormaVazia& formaVazia(const LayoutRegistro& layout)
+{
+    static QHash<const LayoutRegistro*, FormaVazia> cache;
     auto it = cache.find(&layout);
     if (it == cache.end()) {
-        QVector<QString> v;
-        v.reserve(layout.campos.size());
-        for (const CampoLayout& c : layout.campos)
-            v.append(LinhaRegistro::formata(c, QString()));
-        it = cache.insert(&layout, v);
+        FormaVazia f;
+        for (const CampoLayout& c : layout.campos) {
+            const QString v = LinhaRegistro::formata(c, QString());
+            f.exata = f.exata && v.size() == c.tamanho && latin1Seguro(v);
+            f.linha += v.toLatin1();
+            f.valores.append(v);
+        }
+        it = cache.insert(&layout, f);
     }
     return it.value();
 }
 
+// QChar::isSpace for ASCII: what trimmed() takes away.
+bool espaco(char c)
+{
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+// Funcoes' emBranco: empty, or nothing but spaces.
+bool emBranco(QByteArrayView v)
+{
+    for (const char c : v) {
+        if (!espaco(c))
+            return false;
+    }
+    return true;
+}
+
+void zeroEsquerda(QByteArrayView v, int tamanho, QByteArray& saida)
+{
+    if (emBranco(v))
+        v = "0";
+    if (v.size() < tamanho)
+        saida.append(tamanho - v.size(), '0');
+    saida.append(v);
+}
+
+// QString::mid on bytes: nothing from beyond the end.
+QByteArrayView meio(QByteArrayView v, qsizetype inicio, qsizetype tamanho)
+{
+    if (inicio >= v.size())
+        return QByteArrayView();
+    return QByteArrayView(v.data() + inicio, qMin(tamanho, v.size() - inicio));
+}
+
 }  // namespace
 
-LinhaRegistro::LinhaRegistro(const LayoutRegistro& layout)
-    : m_layout(&layout), m_valores(valoresIniciais(layout))
+bool LinhaRegistro::formataAscii(const CampoLayout& campo, QByteArrayView valor, QByteArray& saida)
 {
+    for (const char c : valor) {
+        if (static_cast<unsigned char>(c) >= 0x80)
+            return false;
+    }
+    saida.resize(0);
+    const int w = campo.tamanho;
+    switch (campo.tipo) {
+    case TipoCampo::N:
+        zeroEsquerda(valor, w, saida);
+        return true;
+    case TipoCampo::X:
+        saida.append(valor);
+        if (valor.size() < w)
+            saida.append(w - valor.size(), ' ');
+        return true;
+    case TipoCampo::R:
+        if (valor.size() < w)
+            saida.append(w - valor.size(), ' ');
+        saida.append(valor);
+        return true;
+    case TipoCampo::D2:
+    case TipoCampo::D5:
+    case TipoCampo::D7: {
+        QByteArray semVirgula;
+        if (emBranco(valor)) {
+            semVirgula = "0";
+        } else {
+            semVirgula.reserve(valor.size());
+            for (const char c : valor) {
+                if (c != ',')
+                    semVirgula.append(c);
+            }
+        }
+        zeroEsquerda(semVirgula, w, saida);
+        return true;
+    }
+    case TipoCampo::DT: {
+        QByteArray data;
+        data.append(meio(valor, 4, 4)).append(meio(valor, 2, 2)).append(meio(valor, 0, 2));
+        zeroEsquerda(data, 8, saida);
+        return true;
+    }
+    case TipoCampo::K:
+        if (valor.isNull())
+            saida.append(campo.constante.toLatin1());
+        else
+            saida.append(valor);
+        return true;
+    case TipoCampo::A:
+        saida.append(valor);
+        return true;
+    }
+    return false;
+}
+
+LinhaRegistro::LinhaRegistro(const LayoutRegistro& layout) : m_layout(&layout)
+{
+    limpa();
+}
+
+void LinhaRegistro::limpa()
+{
+    const FormaVazia& f = formaVazia(*m_layout);
+    m_exata = f.exata;
+    if (m_exata) {
+        // Copied into the line's own bytes, so that a line used row after row allocates nothing.
+        m_linha.resize(f.linha.size());
+        std::memcpy(m_linha.data(), f.linha.constData(), size_t(f.linha.size()));
+        m_valores.clear();
+    } else {
+        m_valores = f.valores;
+    }
+}
+
+void LinhaRegistro::separaCampos()
+{
+    m_valores.clear();
+    m_valores.reserve(m_layout->campos.size());
+    for (const CampoLayout& c : m_layout->campos)
+        m_valores.append(QString::fromLatin1(m_linha.constData() + c.posicao - 1, c.tamanho));
+    m_exata = false;
+}
+
+void LinhaRegistro::coloca(int indice, const QString& texto)
+{
+    const CampoLayout& c = m_layout->campos.at(indice);
+    if (m_exata && texto.size() == c.tamanho && latin1Seguro(texto)) {
+        char* d = m_linha.data() + (c.posicao - 1);
+        for (const QChar ch : texto)
+            *d++ = static_cast<char>(ch.unicode());
+        return;
+    }
+    if (m_exata)
+        separaCampos();
+    m_valores[indice] = texto;
+}
+
+void LinhaRegistro::poeUtf8(int indice, QByteArrayView valor)
+{
+    const CampoLayout& c = m_layout->campos.at(indice);
+    if (m_exata && formataAscii(c, valor, m_formatado) && m_formatado.size() == c.tamanho) {
+        std::memcpy(m_linha.data() + (c.posicao - 1), m_formatado.constData(), size_t(c.tamanho));
+        return;
+    }
+    coloca(indice, formata(c, valor.isNull() ? QString() : QString::fromUtf8(valor)));
+}
+
+static int indiceDe(const LayoutRegistro& layout, const QString& nome)
+{
+    const int i = layout.indice(nome);
+    if (i < 0)
+        qFatal("Registro %s sem o campo %s", qPrintable(layout.tipo), qPrintable(nome));
+    return i;
+}
+
+void LinhaRegistro::poe(const QString& nome, const QString& valor)
+{
+    poe(indiceDe(*m_layout, nome), valor);
+}
+
+void LinhaRegistro::poe(int indice, const QString& valor)
+{
+    coloca(indice, formata(m_layout->campos.at(indice), valor));
+}
+
+void LinhaRegistro::poeComoEsta(const QString& nome, const QString& texto)
+{
+    coloca(indiceDe(*m_layout, nome), texto);
+}
+
+void LinhaRegistro::poeComoEsta(int indice, const QString& texto)
+{
+    coloca(indice, texto);
+}
+
+void LinhaRegistro::preenche(const ComandoSqlite& linha, const MapaColunas& mapa)
+{
+    QByteArrayView v;
+    for (const MapaColunas::Par& p : mapa.pares()) {
+        if (linha.utf8(p.coluna, v))
+            poeUtf8(p.campo, v);
+        else
+            poe(p.campo, linha.texto(p.coluna));
+    }
+}
+
+QString LinhaRegistro::valor(const QString& nome) const
+{
+    const int i = indiceDe(*m_layout, nome);
+    if (!m_exata)
+        return m_valores.at(i);
+    const CampoLayout& c = m_layout->campos.at(i);
+    return QString::fromLatin1(m_linha.constData() + c.posicao - 1, c.tamanho);
 }
 
 QString LinhaRegistro::formata(const CampoLayout& campo, const QString& valor)
@@ -54,27 +265,6 @@ QString LinhaRegistro::formata(const CampoLayout& campo, const QString& valor)
     return valor;
 }
 
-void LinhaRegistro::poe(const QString& nome, const QString& valor)
-{
-    const int i = m_layout->indice(nome);
-    if (i < 0)
-        qFatal("Registro %s sem o campo %s", qPrintable(m_layout->tipo), qPrintable(nome));
-    m_valores[i] = formata(m_layout->campos.at(i), valor);
-}
-
-void LinhaRegistro::poeComoEsta(const QString& nome, const QString& texto)
-{
-    const int i = m_layout->indice(nome);
-    if (i < 0)
-        qFatal("Registro %s sem o campo %s", qPrintable(m_layout->tipo), qPrintable(nome));
-    m_valores[i] = texto;
-}
-
-QString LinhaRegistro::valor(const QString& nome) const
-{
-    return m_valores.at(m_layout->indice(nome));
-}
-
 QString LinhaRegistro::texto() const
 {
     QString s;
@@ -84,6 +274,13 @@ QString LinhaRegistro::texto() const
 
 int LinhaRegistro::compoeEm(QString& destino, int coluna) const
 {
+    if (m_exata) {
+        // The fields follow one another from column 1: the placing below gives this very text.
+        if (coluna > 1)
+            destino += QLatin1String("\r\n");
+        destino += QLatin1String(m_linha);
+        return 1 + int(m_linha.size());
+    }
     // Each field is placed at its own column, as the old writer's tabulation did: blanks up to the column, or,
     // when an earlier value ran past it, a line end and blanks up to the column on the new line.
     for (int i = 0; i < m_valores.size(); ++i) {

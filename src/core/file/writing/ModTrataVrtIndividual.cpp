@@ -6,29 +6,26 @@
 #include "core/file/writing/EscritaRegistro.h"
 #include "core/file/writing/GravaVrt.h"
 #include "core/file/writing/LinhaRegistro.h"
+#include "core/file/writing/MapaColunas.h"
 #include "core/file/writing/SaidaVrt.h"
-#include "core/store/modBancoDados.h"
 
 #include <QHash>
-#include <QSqlQuery>
-#include <memory>
-
-using namespace modBancoDados;
-using EscritaRegistro::Colunas;
-using EscritaRegistro::poe;
-using EscritaRegistro::valoresImportacao;
 
 namespace ModTrataVrtIndividual {
 
 namespace {
 
-const QString S = QStringLiteral("S");
-const QString N = QStringLiteral("N");
-const QString Branco = QStringLiteral(" ");
+using EscritaRegistro::RegistrosFilhos;
+using EscritaRegistro::valoresImportacao;
 
 const LayoutRegistro& layout(int tipo)
 {
     return LayoutRegistro::de(TipoDeclaracao::Individual, tipo);
+}
+
+int campo(int tipo, const QString& nome)
+{
+    return layout(tipo).indice(nome);
 }
 
 const EscritaRegistro::NomesProduto& nomesProduto()
@@ -39,352 +36,273 @@ const EscritaRegistro::NomesProduto& nomesProduto()
     return nomes;
 }
 
-// A column taken only where it differs from one blank (a Null is not taken either).
-void poeSeNaoBranco(LinhaRegistro& r, const char* campo, const QVariant& valor)
+// Columns of the item query that the writer reads itself; the others fill the records by their names. The key
+// of each modality table is Null where the item has no row there.
+enum { ItId, ItModalidade, PeId, CpId, SpId, NaId };
+
+// The item, then the row of its modality's table. Where two modality tables have a column of one name, the
+// item's modality chooses; the unit goes to record 21 only for a DCR item (a DCR-E item leaves it blank); the
+// product's justifications are taken only where they differ from one blank.
+QString sqlItem()
 {
-    if (!valor.isNull() && valor.toString() != Branco)
-        r.poe(QString::fromLatin1(campo), valor.toString());
+    return QStringLiteral(
+        "SELECT t.ID_ITEM, t.IND_MOD_INTERNACAO, pe.ID_ITEM, cp.ID_ITEM, sp.ID_ITEM, na.ID_ITEM, "
+        "t.NR_ITEM_NF_SAIDA, t.CD_INT_PROD, t.NM_INT_PROD, t.CD_NCM_PROD, "
+        "CASE WHEN t.IND_MOD_INTERNACAO = '2' AND cp.CD_TIPO_COEF_REDUCAO IS NOT '2' THEN NULL "
+        "ELSE t.NM_UNID_MED_PROD END AS NM_UNID_MED_PROD, "
+        "NULLIF(j.JUST_II_DIF_TEC, ' ') AS JUST_II_DIF_TEC, NULLIF(j.ALIQ_II_DIF_TEC, ' ') AS ALIQ_II_DIF_TEC, "
+        "NULLIF(j.JUST_IPI_DIF_TIPI, ' ') AS JUST_IPI_DIF_TIPI, "
+        "NULLIF(j.ALIQ_IPI_DIF_TIPI, ' ') AS ALIQ_IPI_DIF_TIPI, "
+        "CASE t.IND_MOD_INTERNACAO WHEN '1' THEN pe.QT_INT_UNID_NFS WHEN '3' THEN sp.QT_INT_UNID_NFS "
+        "WHEN '4' THEN na.QT_INT_UNID_NFS END AS QT_INT_UNID_NFS, "
+        "CASE t.IND_MOD_INTERNACAO WHEN '1' THEN pe.QT_INT_UNID_EST WHEN '4' THEN na.QT_INT_UNID_EST END "
+        "AS QT_INT_UNID_EST, "
+        "CASE t.IND_MOD_INTERNACAO WHEN '1' THEN pe.VL_INT_UNID_NFS WHEN '3' THEN sp.VL_INT_UNID_NFS "
+        "WHEN '4' THEN na.VL_INT_UNID_NFS END AS VL_INT_UNID_NFS, pe.VL_IPI_DESTACADO, "
+        "CASE cp.CD_TIPO_COEF_REDUCAO WHEN '1' THEN e.NR_DCRE END AS NR_DCRE, "
+        "CASE cp.CD_TIPO_COEF_REDUCAO WHEN '1' THEN e.QT_PRODUTO WHEN '2' THEN r.QT_PRODUTO END AS QT_PRODUTO, "
+        "CASE cp.CD_TIPO_COEF_REDUCAO WHEN '2' THEN r.NR_DCR END AS NR_DCR, "
+        "CASE cp.CD_TIPO_COEF_REDUCAO WHEN '2' THEN r.VL_II_UNIT_DOLAR END AS VL_II_UNIT_DOLAR, "
+        "CASE cp.CD_TIPO_COEF_REDUCAO WHEN '2' THEN r.PC_COEF_REDUCAO_II END AS PC_COEF_REDUCAO_II, "
+        "cp.VL_PIS, cp.VL_COFINS "
+        "FROM ITEM_NFS t "
+        "LEFT JOIN ITEM_NFS_PE pe ON pe.ID_ITEM = t.ID_ITEM "
+        "LEFT JOIN JUST_DIF_ALIQ_PROD_VRT_IND j ON j.ID_ITEM = t.ID_ITEM "
+        "LEFT JOIN ITEM_NFS_PI_COM_PPB cp ON cp.ID_ITEM = t.ID_ITEM "
+        "LEFT JOIN DCRE e ON e.ID_DCRE = (SELECT MIN(ID_DCRE) FROM DCRE WHERE ID_ITEM = t.ID_ITEM) "
+        "LEFT JOIN DCR r ON r.ID_DCR = (SELECT MIN(ID_DCR) FROM DCR WHERE ID_ITEM = t.ID_ITEM) "
+        "LEFT JOIN ITEM_NFS_PI_SEM_PPB sp ON sp.ID_ITEM = t.ID_ITEM "
+        "LEFT JOIN ITEM_NFS_100 na ON na.ID_ITEM = t.ID_ITEM "
+        "WHERE t.ID_NFS = ? ORDER BY t.ID_ITEM");
 }
 
-// Columns of the item query: the item, then the row of each modality table (its key is Null without one).
-enum { ItId, ItModalidade, ItNrItem, ItCodigo, ItNome, ItUnidade, ItNcm,
-       PeId, PeQtNfs, PeQtEst, PeVlNfs, PeIpi, JuII, JuAliqII, JuIPI, JuAliqIPI,
-       CpId, CpTipo, CpPis, CpCofins, DcreNumero, DcreQuantidade, DcrNumero, DcrCoef, DcrQuantidade, DcrVlII,
-       SpId, SpQtNfs, SpVlNfs, NaId, NaQtNfs, NaQtEst, NaVlNfs };
+// Child queries walk the items in the item query's order (the item's key), restricted to the items that write
+// them: those of their modality that have the modality's row.
+QString sqlDoProduto(const QString& colunas, const QString& tabelas, const QString& chave)
+{
+    return QStringLiteral("SELECT x.ID_ITEM, ") + colunas + QStringLiteral(" FROM ") + tabelas
+           + QStringLiteral(" JOIN ITEM_NFS t ON t.ID_ITEM = x.ID_ITEM JOIN ITEM_NFS_PE p ON p.ID_ITEM = t.ID_ITEM "
+                            "WHERE t.ID_NFS = ? AND t.IND_MOD_INTERNACAO = '1' ORDER BY t.ID_ITEM, x.")
+           + chave;
+}
+
+const QString& deSemPPB()
+{
+    static const QString texto = QStringLiteral(
+        " JOIN ITEM_NFS t ON t.ID_ITEM = s.ID_ITEM JOIN ITEM_NFS_PI_SEM_PPB p ON p.ID_ITEM = t.ID_ITEM "
+        "WHERE t.ID_NFS = ? AND t.IND_MOD_INTERNACAO = '3' ORDER BY t.ID_ITEM, s.ID_INSUMO");
+    return texto;
+}
+
+QString sqlDoInsumo(const QString& colunas, const QString& tabelas, const QString& chave)
+{
+    return QStringLiteral("SELECT x.ID_INSUMO, ") + colunas + QStringLiteral(" FROM ") + tabelas
+           + QStringLiteral(" JOIN INSUMO_ITEM_NFS s ON s.ID_INSUMO = x.ID_INSUMO") + deSemPPB()
+           + QStringLiteral(", x.") + chave;
+}
+
+// ITEM_IMPORT_288_* as `m`: the first import row of the DI line `x`.
+QString comImportacao(const QString& tabela, const QString& tabelaImportacao)
+{
+    return tabela + QStringLiteral(" x LEFT JOIN ") + tabelaImportacao
+           + QStringLiteral(" m ON m.ID_ITEM_IMP_288 = (SELECT MIN(y.ID_ITEM_IMP_288) FROM ") + tabelaImportacao
+           + QStringLiteral(" y WHERE y.ID_ITEM_DI = x.ID_ITEM_DI)");
+}
+
+// VL_TOT_PROD_INT of the DI query, under a name of no field: the writer decides whether it is written.
+constexpr int DiTotal = 14;
+
+// A record filled from the item's row and, where it has one, a child's row, which wins where both name a field.
+struct RegistroItem {
+    RegistroItem(int tipo, const ComandoSqlite& item, const ComandoSqlite* filho = nullptr)
+        : linha(layout(tipo)), doItem(layout(tipo), item)
+    {
+        if (filho)
+            doFilho = MapaColunas(layout(tipo), *filho);
+    }
+    LinhaRegistro& compoe(const ComandoSqlite& item, const ComandoSqlite* filho = nullptr)
+    {
+        linha.limpa();
+        linha.preenche(item, doItem);
+        if (filho)
+            linha.preenche(*filho, doFilho);
+        return linha;
+    }
+    LinhaRegistro linha;
+    MapaColunas doItem;
+    MapaColunas doFilho;
+};
 
 class EscritaIndividual {
 public:
-    EscritaIndividual(const CabecalhoVrt& cabecalho, GravacaoVrt& run, SaidaVrt& saida)
-        : m_cab(cabecalho), m_run(run), m_saida(saida)
-    {
-    }
+    EscritaIndividual(const CabecalhoVrt& cabecalho, GravacaoVrt& run, SaidaVrt& saida);
     void escreveItens();
 
 private:
-    LinhaRegistro comItem(int tipo, const ComandoSqlite& item) const;
-    void produtoEstrangeiro(const ComandoSqlite& item);
-    void registro12(qint64 item);
-    void registro13(qint64 item);
-    void registro14(qint64 item);
-    void produtoComPPB(const ComandoSqlite& item);
-    void produtoSemPPB(const ComandoSqlite& item);
-    void registro34(qint64 insumo);
-    void registro35(qint64 insumo);
-    void registro36(qint64 insumo);
-    void produtoNacional(const ComandoSqlite& item);
+    void produtoEstrangeiro();
+    void produtoComPPB();
+    void produtoSemPPB();
+    void produtoNacional();
 
     const CabecalhoVrt& m_cab;
-    GravacaoVrt& m_run;
     SaidaVrt& m_saida;
-    std::unique_ptr<CursorFilhos> m_nfa, m_di, m_dsi, m_insumos, m_nfaIns, m_diIns, m_dsiIns;
+    const QVariantList m_nfs;
+    ComandoSqlite m_item;
+    RegistroItem m_r11, m_r21, m_r31, m_r41;
+    RegistrosFilhos m_nfa, m_di, m_dsi;
+    CursorFilhos m_insumos;
+    RegistroItem m_r32, m_r33;
+    RegistrosFilhos m_nfaIns, m_diIns, m_dsiIns;
     QHash<QString, QString> m_totalInsumo;  // INSUMO_VRT_IND by input
 };
 
+EscritaIndividual::EscritaIndividual(const CabecalhoVrt& cabecalho, GravacaoVrt& run, SaidaVrt& saida)
+    : m_cab(cabecalho), m_saida(saida), m_nfs{cabecalho.idNfs}, m_item(sqlItem()), m_r11(11, m_item),
+      m_r21(21, m_item), m_r31(31, m_item), m_r41(41, m_item),
+      m_nfa(layout(12),
+            sqlDoProduto(EscritaRegistro::colunas12(nomesProduto()), QStringLiteral("ITEM_NFA_PE_IND x"),
+                         QStringLiteral("ID_ITEM_NFA")),
+            m_nfs),
+      m_di(layout(13),
+           sqlDoProduto(
+               QStringLiteral("NULLIF(x.NR_DI, ' ') AS NR_DI, NULLIF(x.NR_DI_ANTIGA, ' ') AS NR_DI_ANTIGA, "
+                              "x.NR_ADICAO_DI, x.NR_ITEM_ADICAO, x.IND_DL_288_67, x.IND_OBSOLE_RESIDUO, "
+                              "x.QT_PROD_UNID_NFS, ")
+                   // The suspension of PIS/COFINS does not count here, unlike the monthly record 13.
+                   + valoresImportacao(QStringLiteral("x.IND_DL_288_67 = 'S' AND x.IND_OBSOLE_RESIDUO = 'N'"),
+                                       QStringLiteral("m"), QStringLiteral("VL_INS_PROD_UNID_NFS"),
+                                       QStringLiteral("NFS"))
+                   + QStringLiteral(", m.VL_TOT_PROD_INT AS TOTAL_INT, x.IND_SUSP_PIS_COFINS"),
+               comImportacao(QStringLiteral("ITEM_DI_PE_IND"), QStringLiteral("ITEM_IMPORT_288_PE")),
+               QStringLiteral("ID_ITEM_DI")),
+           m_nfs,
+           [&run](LinhaRegistro& r, const ComandoSqlite& x) {
+               static const int total = campo(13, QStringLiteral("VL_TOT_PROD_INT"));
+               // Kept as the system has it: the test reads the monthly writer's working value, which only a
+               // monthly file written earlier in the run can have set.
+               if (run.obsoleResiduoMensal == QLatin1String("S"))
+                   r.poe(total, x.texto(DiTotal));
+           }),
+      m_dsi(layout(14),
+            sqlDoProduto(EscritaRegistro::colunas14(nomesProduto()), QStringLiteral("ITEM_DSI_PE_IND x"),
+                         QStringLiteral("ID_ITEM_DSI")),
+            m_nfs),
+      m_insumos(QStringLiteral("SELECT s.ID_ITEM, s.ID_INSUMO, s.CD_INT_INSUMO, s.CD_NCM_INSUMO, s.NM_INT_INSUMO, "
+                               "s.NM_UNID_MED_INSUMO, s.QT_INSUMO_POR_PROD, j.JUST_II_DIF_TEC, j.ALIQ_II_DIF_TEC, "
+                               "j.JUST_IPI_DIF_TIPI, j.ALIQ_IPI_DIF_TIPI FROM INSUMO_ITEM_NFS s "
+                               "LEFT JOIN JUST_DIF_ALIQ_INS_VRT_IND j ON j.ID_INSUMO = s.ID_INSUMO")
+                    + deSemPPB(),
+                m_nfs),
+      m_r32(32, m_item, &m_insumos.linha()), m_r33(33, m_item, &m_insumos.linha()),
+      m_nfaIns(layout(34),
+               sqlDoInsumo(QStringLiteral("x.NR_CNPJ_FORNECEDOR, x.NR_SERIE_NF_AQUIS, x.NR_NF_AQUIS, "
+                                          "x.NR_ITEM_NF_AQUIS, x.DT_EMISS_NF_AQUIS, x.CD_CFOP_NF_AQUIS, "
+                                          "x.IND_DL_288_67, x.QT_INSUMO_UNID_NFS, x.VL_INS_PROD_UNID_NFS"),
+                           QStringLiteral("ITEM_NFA_INS_IND x"), QStringLiteral("ID_ITEM_NFA")),
+               m_nfs),
+      m_diIns(layout(35),
+              sqlDoInsumo(QStringLiteral("NULLIF(x.NR_DI, ' ') AS NR_DI, NULLIF(x.NR_DI_ANTIGA, ' ') AS NR_DI_ANTIGA, "
+                                         "x.NR_ADICAO_DI, x.NR_ITEM_ADICAO, x.IND_DL_288_67, x.QT_INSUMO_UNID_NFS, ")
+                              + valoresImportacao(QStringLiteral("x.IND_DL_288_67 = 'S'"), QStringLiteral("m"),
+                                                  QStringLiteral("VL_INS_PROD_UNID_NFS"), QStringLiteral("NFS"))
+                              + QStringLiteral(", x.IND_SUSP_PIS_COFINS"),
+                          comImportacao(QStringLiteral("ITEM_DI_INS_IND"), QStringLiteral("ITEM_IMPORT_288_INS")),
+                          QStringLiteral("ID_ITEM_DI")),
+              m_nfs),
+      m_dsiIns(layout(36),
+               sqlDoInsumo(QStringLiteral("NULLIF(x.NR_DSI, ' ') AS NR_DSI, "
+                                          "NULLIF(x.NR_DSI_ANTIGA, ' ') AS NR_DSI_ANTIGA, x.NR_BEM, "
+                                          "x.QT_INSUMO_UNID_NFS, ")
+                               // Written whatever the suspension indicator holds, unlike the monthly records
+                               // 14 and 36.
+                               + valoresImportacao(QString(), QStringLiteral("x"), QStringLiteral("VL_INS_UNID_PROD"),
+                                                   QStringLiteral("INT"))
+                               + QStringLiteral(", x.IND_SUSP_PIS_COFINS"),
+                           QStringLiteral("ITEM_DSI_INS_IND x"), QStringLiteral("ID_ITEM_DSI")),
+               m_nfs)
+{
+    ComandoSqlite rs(QStringLiteral("SELECT CD_INT_INSUMO, QT_TOT_INS FROM INSUMO_VRT_IND WHERE ID_VRT_MICRO = ?"));
+    rs.abre({m_cab.idVrtMicro});
+    while (rs.proxima())
+        m_totalInsumo.insert(rs.texto(0), rs.texto(1));
+}
+
 void EscritaIndividual::escreveItens()
 {
-    if (m_cab.idNfs.isNull())
-        return;
-    const QVariantList nfs{m_cab.idNfs};
-    // Child queries walk the items in the item query's order (the item's key), restricted to the items that
-    // write them: those of their modality that have the modality's row.
-    const QString dePE = QStringLiteral(
-        " JOIN ITEM_NFS t ON t.ID_ITEM = x.ID_ITEM JOIN ITEM_NFS_PE p ON p.ID_ITEM = t.ID_ITEM "
-        "WHERE t.ID_NFS = ? AND t.IND_MOD_INTERNACAO = '1' ORDER BY t.ID_ITEM, ");
-    m_nfa = std::make_unique<CursorFilhos>(
-        QStringLiteral("SELECT x.ID_ITEM, x.NR_CNPJ_FORNECEDOR, x.NR_SERIE_NF_AQUIS, x.NR_NF_AQUIS, "
-                       "x.NR_ITEM_NF_AQUIS, x.DT_EMISS_NF_AQUIS, x.CD_CFOP_NF_AQUIS, x.IND_DL_288_67, "
-                       "x.IND_OBSOLE_RESIDUO, x.QT_PROD_UNID_NFS, x.VL_INS_PROD_UNID_NFS, x.VL_TOT_PROD_INT "
-                       "FROM ITEM_NFA_PE_IND x")
-            + dePE + QStringLiteral("x.ID_ITEM_NFA"),
-        nfs);
-    m_di = std::make_unique<CursorFilhos>(
-        QStringLiteral("SELECT x.ID_ITEM, x.NR_DI, x.NR_DI_ANTIGA, x.NR_ADICAO_DI, x.NR_ITEM_ADICAO, "
-                       "x.IND_DL_288_67, x.IND_OBSOLE_RESIDUO, x.QT_PROD_UNID_NFS, m.VL_INS_PROD_UNID_NFS, "
-                       "m.CD_MOEDA_NEG, m.VL_FRETE_UNID_NFS, m.CD_MOEDA_FRETE, m.VL_SEGURO_UNID_NFS, "
-                       "m.CD_MOEDA_SEGURO, m.VL_TOT_PROD_INT, x.IND_SUSP_PIS_COFINS FROM ITEM_DI_PE_IND x "
-                       "LEFT JOIN ITEM_IMPORT_288_PE m ON m.ID_ITEM_IMP_288 = (SELECT MIN(y.ID_ITEM_IMP_288) "
-                       "FROM ITEM_IMPORT_288_PE y WHERE y.ID_ITEM_DI = x.ID_ITEM_DI)")
-            + dePE + QStringLiteral("x.ID_ITEM_DI"),
-        nfs);
-    m_dsi = std::make_unique<CursorFilhos>(
-        QStringLiteral("SELECT x.ID_ITEM, x.NR_DSI, x.NR_DSI_ANTIGA, x.NR_BEM, x.QT_PROD_UNID_NFS, "
-                       "x.VL_PROD_UNID_PROD, x.CD_MOEDA_NEG, x.VL_FRETE_UNID_INT, x.CD_MOEDA_FRETE, "
-                       "x.VL_SEGURO_UNID_INT, x.CD_MOEDA_SEGURO, x.IND_SUSP_PIS_COFINS FROM ITEM_DSI_PE_IND x")
-            + dePE + QStringLiteral("x.ID_ITEM_DSI"),
-        nfs);
-    const QString deSemPPB = QStringLiteral(
-        " JOIN ITEM_NFS t ON t.ID_ITEM = s.ID_ITEM JOIN ITEM_NFS_PI_SEM_PPB p ON p.ID_ITEM = t.ID_ITEM "
-        "WHERE t.ID_NFS = ? AND t.IND_MOD_INTERNACAO = '3' ORDER BY t.ID_ITEM, s.ID_INSUMO");
-    m_insumos = std::make_unique<CursorFilhos>(
-        QStringLiteral("SELECT s.ID_ITEM, s.ID_INSUMO, s.CD_INT_INSUMO, s.CD_NCM_INSUMO, s.NM_INT_INSUMO, "
-                       "s.NM_UNID_MED_INSUMO, s.QT_INSUMO_POR_PROD, j.JUST_II_DIF_TEC, j.ALIQ_II_DIF_TEC, "
-                       "j.JUST_IPI_DIF_TIPI, j.ALIQ_IPI_DIF_TIPI FROM INSUMO_ITEM_NFS s "
-                       "LEFT JOIN JUST_DIF_ALIQ_INS_VRT_IND j ON j.ID_INSUMO = s.ID_INSUMO")
-            + deSemPPB,
-        nfs);
-    m_nfaIns = std::make_unique<CursorFilhos>(
-        QStringLiteral("SELECT x.ID_INSUMO, x.NR_CNPJ_FORNECEDOR, x.NR_SERIE_NF_AQUIS, x.NR_NF_AQUIS, "
-                       "x.NR_ITEM_NF_AQUIS, x.DT_EMISS_NF_AQUIS, x.CD_CFOP_NF_AQUIS, x.IND_DL_288_67, "
-                       "x.QT_INSUMO_UNID_NFS, x.VL_INS_PROD_UNID_NFS FROM ITEM_NFA_INS_IND x "
-                       "JOIN INSUMO_ITEM_NFS s ON s.ID_INSUMO = x.ID_INSUMO")
-            + deSemPPB + QStringLiteral(", x.ID_ITEM_NFA"),
-        nfs);
-    m_diIns = std::make_unique<CursorFilhos>(
-        QStringLiteral("SELECT x.ID_INSUMO, x.NR_DI, x.NR_DI_ANTIGA, x.NR_ADICAO_DI, x.NR_ITEM_ADICAO, "
-                       "x.IND_DL_288_67, x.QT_INSUMO_UNID_NFS, m.VL_INS_PROD_UNID_NFS, m.CD_MOEDA_NEG, "
-                       "m.VL_FRETE_UNID_NFS, m.CD_MOEDA_FRETE, m.VL_SEGURO_UNID_NFS, m.CD_MOEDA_SEGURO, "
-                       "x.IND_SUSP_PIS_COFINS FROM ITEM_DI_INS_IND x "
-                       "JOIN INSUMO_ITEM_NFS s ON s.ID_INSUMO = x.ID_INSUMO "
-                       "LEFT JOIN ITEM_IMPORT_288_INS m ON m.ID_ITEM_IMP_288 = (SELECT MIN(y.ID_ITEM_IMP_288) "
-                       "FROM ITEM_IMPORT_288_INS y WHERE y.ID_ITEM_DI = x.ID_ITEM_DI)")
-            + deSemPPB + QStringLiteral(", x.ID_ITEM_DI"),
-        nfs);
-    m_dsiIns = std::make_unique<CursorFilhos>(
-        QStringLiteral("SELECT x.ID_INSUMO, x.NR_DSI, x.NR_DSI_ANTIGA, x.NR_BEM, x.QT_INSUMO_UNID_NFS, "
-                       "x.VL_INS_UNID_PROD, x.CD_MOEDA_NEG, x.VL_FRETE_UNID_INT, x.CD_MOEDA_FRETE, "
-                       "x.VL_SEGURO_UNID_INT, x.CD_MOEDA_SEGURO, x.IND_SUSP_PIS_COFINS FROM ITEM_DSI_INS_IND x "
-                       "JOIN INSUMO_ITEM_NFS s ON s.ID_INSUMO = x.ID_INSUMO")
-            + deSemPPB + QStringLiteral(", x.ID_ITEM_DSI"),
-        nfs);
-    {
-        QSqlQuery rs(ConexaoBanco());
-        rs.setForwardOnly(true);
-        AbreConsulta(rs, QStringLiteral("SELECT CD_INT_INSUMO, QT_TOT_INS FROM INSUMO_VRT_IND WHERE ID_VRT_MICRO = ?"),
-                     {m_cab.idVrtMicro});
-        while (rs.next())
-            m_totalInsumo.insert(rs.value(0).toString(), rs.value(1).toString());
-    }
-
-    ComandoSqlite item(
-                 QStringLiteral("SELECT t.ID_ITEM, t.IND_MOD_INTERNACAO, t.NR_ITEM_NF_SAIDA, t.CD_INT_PROD, "
-                                "t.NM_INT_PROD, t.NM_UNID_MED_PROD, t.CD_NCM_PROD, "
-                                "pe.ID_ITEM, pe.QT_INT_UNID_NFS, pe.QT_INT_UNID_EST, pe.VL_INT_UNID_NFS, "
-                                "pe.VL_IPI_DESTACADO, j.JUST_II_DIF_TEC, j.ALIQ_II_DIF_TEC, j.JUST_IPI_DIF_TIPI, "
-                                "j.ALIQ_IPI_DIF_TIPI, cp.ID_ITEM, cp.CD_TIPO_COEF_REDUCAO, cp.VL_PIS, cp.VL_COFINS, "
-                                "e.NR_DCRE, e.QT_PRODUTO, r.NR_DCR, r.PC_COEF_REDUCAO_II, r.QT_PRODUTO, "
-                                "r.VL_II_UNIT_DOLAR, sp.ID_ITEM, sp.QT_INT_UNID_NFS, sp.VL_INT_UNID_NFS, "
-                                "na.ID_ITEM, na.QT_INT_UNID_NFS, na.QT_INT_UNID_EST, na.VL_INT_UNID_NFS "
-                                "FROM ITEM_NFS t "
-                                "LEFT JOIN ITEM_NFS_PE pe ON pe.ID_ITEM = t.ID_ITEM "
-                                "LEFT JOIN JUST_DIF_ALIQ_PROD_VRT_IND j ON j.ID_ITEM = t.ID_ITEM "
-                                "LEFT JOIN ITEM_NFS_PI_COM_PPB cp ON cp.ID_ITEM = t.ID_ITEM "
-                                "LEFT JOIN DCRE e ON e.ID_DCRE = (SELECT MIN(ID_DCRE) FROM DCRE WHERE ID_ITEM = t.ID_ITEM) "
-                                "LEFT JOIN DCR r ON r.ID_DCR = (SELECT MIN(ID_DCR) FROM DCR WHERE ID_ITEM = t.ID_ITEM) "
-                                "LEFT JOIN ITEM_NFS_PI_SEM_PPB sp ON sp.ID_ITEM = t.ID_ITEM "
-                                "LEFT JOIN ITEM_NFS_100 na ON na.ID_ITEM = t.ID_ITEM "
-                                "WHERE t.ID_NFS = ? ORDER BY t.ID_ITEM"));
-    item.abre({nfs});
-    while (item.proxima()) {
+    m_item.abre(m_nfs);
+    while (m_item.proxima()) {
         // An item without the row of its modality's table writes nothing.
-        const QString modalidade = item.texto(ItModalidade);
-        if (modalidade == QLatin1String("1") && !item.valor(PeId).isNull())
-            produtoEstrangeiro(item);
-        else if (modalidade == QLatin1String("2") && !item.valor(CpId).isNull())
-            produtoComPPB(item);
-        else if (modalidade == QLatin1String("3") && !item.valor(SpId).isNull())
-            produtoSemPPB(item);
-        else if (modalidade == QLatin1String("4") && !item.valor(NaId).isNull())
-            produtoNacional(item);
+        const QString modalidade = m_item.texto(ItModalidade);
+        if (modalidade == QLatin1String("1") && !m_item.valor(PeId).isNull())
+            produtoEstrangeiro();
+        else if (modalidade == QLatin1String("2") && !m_item.valor(CpId).isNull())
+            produtoComPPB();
+        else if (modalidade == QLatin1String("3") && !m_item.valor(SpId).isNull())
+            produtoSemPPB();
+        else if (modalidade == QLatin1String("4") && !m_item.valor(NaId).isNull())
+            produtoNacional();
     }
 }
 
-LinhaRegistro EscritaIndividual::comItem(int tipo, const ComandoSqlite& item) const
+void EscritaIndividual::produtoEstrangeiro()
 {
-    LinhaRegistro r(layout(tipo));
-    r.poe(QStringLiteral("NR_ITEM_NF_SAIDA"), item.texto(ItNrItem));
-    return r;
-}
-
-void EscritaIndividual::produtoEstrangeiro(const ComandoSqlite& item)
-{
-    LinhaRegistro r = comItem(11, item);
-    r.poe(QStringLiteral("CD_NCM_PROD"), item.texto(ItNcm));
-    r.poe(QStringLiteral("CD_INT_PROD"), item.texto(ItCodigo));
-    r.poe(QStringLiteral("CD_LOCAL_DESTINO"), m_cab.destino);
-    r.poe(QStringLiteral("NM_INT_PROD"), item.texto(ItNome));
-    poeSeNaoBranco(r, "JUST_II_DIF_TEC", item.valor(JuII));
-    poeSeNaoBranco(r, "ALIQ_II_DIF_TEC", item.valor(JuAliqII));
-    poeSeNaoBranco(r, "JUST_IPI_DIF_TIPI", item.valor(JuIPI));
-    poeSeNaoBranco(r, "ALIQ_IPI_DIF_TIPI", item.valor(JuAliqIPI));
-    r.poe(QStringLiteral("NM_UNID_MED_PROD"), item.texto(ItUnidade));
-    r.poe(QStringLiteral("QT_INT_UNID_NFS"), item.texto(PeQtNfs));
-    r.poe(QStringLiteral("QT_INT_UNID_EST"), item.texto(PeQtEst));
-    r.poe(QStringLiteral("VL_INT_UNID_NFS"), item.texto(PeVlNfs));
-    r.poe(QStringLiteral("VL_IPI_DESTACADO"), item.texto(PeIpi));
+    static const int local = campo(11, QStringLiteral("CD_LOCAL_DESTINO"));
+    LinhaRegistro& r = m_r11.compoe(m_item);
+    r.poe(local, m_cab.destino);
     m_saida.escreve(r);
-    const qint64 id = item.inteiro(ItId);
-    registro12(id);
-    registro13(id);
-    registro14(id);
+    const qint64 id = m_item.inteiro(ItId);
+    m_nfa.escreve(m_saida, id);
+    m_di.escreve(m_saida, id);
+    m_dsi.escreve(m_saida, id);
 }
 
-void EscritaIndividual::registro12(qint64 item)
+void EscritaIndividual::produtoComPPB()
 {
-    EscritaRegistro::escreveRegistros12(m_saida, layout(12), *m_nfa, item, nomesProduto());
-}
-
-void EscritaIndividual::registro13(qint64 item)
-{
-    enum { Numero = 1, Antiga, Adicao, ItemAdicao, Dl288, Obsoleto, Quantidade, Valor, Moeda, Frete, MoedaFrete,
-           Seguro, MoedaSeguro, ValorTotal, Suspensao };
-    static const Colunas campos{{"NR_DI", Numero, true}, {"NR_DI_ANTIGA", Antiga, true},
-                                {"NR_ADICAO_DI", Adicao}, {"NR_ITEM_ADICAO", ItemAdicao},
-                                {"IND_DL_288_67", Dl288}, {"IND_OBSOLE_RESIDUO", Obsoleto},
-                                {"QT_PROD_UNID_NFS", Quantidade}};
-    static const Colunas valores =
-        valoresImportacao(QStringLiteral("VL_INS_PROD_UNID_NFS"), QStringLiteral("NFS"), Valor);
-    for (; m_di->de(item); m_di->avanca()) {
-        const CursorFilhos& x = *m_di;
-        LinhaRegistro r(layout(13));
-        poe(r, x, campos);
-        // The suspension of PIS/COFINS does not count here, unlike the monthly record 13.
-        if (x.texto(Dl288) == S && x.texto(Obsoleto) == N)
-            poe(r, x, valores);
-        // Kept as the system has it: the test reads the monthly writer's working value, which only a monthly
-        // file written earlier in the run can have set.
-        if (m_run.obsoleResiduoMensal == S)
-            r.poe(QStringLiteral("VL_TOT_PROD_INT"), x.texto(ValorTotal));
-        r.poe(QStringLiteral("IND_SUSP_PIS_COFINS"), x.texto(Suspensao));
-        m_saida.escreve(r);
-    }
-}
-
-void EscritaIndividual::registro14(qint64 item)
-{
-    EscritaRegistro::escreveRegistros14(m_saida, layout(14), *m_dsi, item, nomesProduto());
-}
-
-void EscritaIndividual::produtoComPPB(const ComandoSqlite& item)
-{
-    const QString tipo = item.texto(CpTipo);
-    LinhaRegistro r = comItem(21, item);
-    r.poe(QStringLiteral("CD_LOCAL_DESTINO"), m_cab.destino);
-    r.poe(QStringLiteral("CD_INT_PROD"), item.texto(ItCodigo));
-    r.poe(QStringLiteral("NM_INT_PROD"), item.texto(ItNome));
-    if (tipo == QLatin1String("1")) {
-        r.poe(QStringLiteral("NR_DCRE"), item.texto(DcreNumero));
-        r.poe(QStringLiteral("QT_PRODUTO"), item.texto(DcreQuantidade));
-    } else if (tipo == QLatin1String("2")) {
-        r.poe(QStringLiteral("NR_DCR"), item.texto(DcrNumero));
-        r.poe(QStringLiteral("VL_II_UNIT_DOLAR"), item.texto(DcrVlII));
-        r.poe(QStringLiteral("PC_COEF_REDUCAO_II"), item.texto(DcrCoef));
-        r.poe(QStringLiteral("QT_PRODUTO"), item.texto(DcrQuantidade));
-        // Only a DCR item carries its unit; a DCR-E item leaves the field blank.
-        r.poe(QStringLiteral("NM_UNID_MED_PROD"), item.texto(ItUnidade));
-    }
-    r.poe(QStringLiteral("VL_PIS"), item.texto(CpPis));
-    r.poe(QStringLiteral("VL_COFINS"), item.texto(CpCofins));
+    static const int local = campo(21, QStringLiteral("CD_LOCAL_DESTINO"));
+    LinhaRegistro& r = m_r21.compoe(m_item);
+    r.poe(local, m_cab.destino);
     m_saida.escreve(r);
 }
 
-void EscritaIndividual::produtoSemPPB(const ComandoSqlite& item)
+void EscritaIndividual::produtoSemPPB()
 {
-    LinhaRegistro r = comItem(31, item);
-    r.poe(QStringLiteral("CD_INT_PROD"), item.texto(ItCodigo));
-    r.poe(QStringLiteral("NM_INT_PROD"), item.texto(ItNome));
-    r.poe(QStringLiteral("NM_UNID_MED_PROD"), item.texto(ItUnidade));
-    r.poe(QStringLiteral("CD_NCM_PROD"), item.texto(ItNcm));
-    r.poe(QStringLiteral("QT_INT_UNID_NFS"), item.texto(SpQtNfs));
-    r.poe(QStringLiteral("VL_INT_UNID_NFS"), item.texto(SpVlNfs));
+    static const QVector<int> locais = [] {
+        QVector<int> v;
+        for (int d = 1; d <= 4; ++d)
+            v << campo(31, QStringLiteral("CD_LOCAL_DESTINO_") + QString::number(d));
+        return v;
+    }();
+    static const int total = campo(33, QStringLiteral("QT_TOT_INS"));
+    static const int local = campo(33, QStringLiteral("CD_LOCAL_DESTINO"));
+    enum { Codigo = 2 };
+
+    LinhaRegistro& r = m_r31.compoe(m_item);
     // Only the invoice's destination is marked; the quantities stay zero.
     for (int d = 1; d <= 4; ++d) {
         const QString codigo = QString::number(d);
-        r.poe(QStringLiteral("CD_LOCAL_DESTINO_") + codigo, m_cab.destino == codigo ? codigo : QStringLiteral("0"));
+        r.poe(locais.at(d - 1), m_cab.destino == codigo ? codigo : QStringLiteral("0"));
     }
     m_saida.escreve(r);
 
-    enum { Id = 1, Codigo, Ncm, Nome, Unidade, Quantidade, JustII, AliqII, JustIPI, AliqIPI };
-    static const Colunas campos32{{"CD_INT_INSUMO", Codigo}, {"CD_NCM_INSUMO", Ncm}, {"NM_INT_INSUMO", Nome},
-                                  {"NM_UNID_MED_INSUMO", Unidade}, {"QT_INSUMO_POR_PROD", Quantidade}};
-    static const Colunas justificativas33{{"JUST_II_DIF_TEC", JustII}, {"ALIQ_II_DIF_TEC", AliqII},
-                                          {"JUST_IPI_DIF_TIPI", JustIPI}, {"ALIQ_IPI_DIF_TIPI", AliqIPI}};
-    const qint64 idItem = item.inteiro(ItId);
-    for (; m_insumos->de(idItem); m_insumos->avanca()) {
-        const CursorFilhos& x = *m_insumos;
-        LinhaRegistro r32 = comItem(32, item);
-        r32.poe(QStringLiteral("CD_INT_PROD"), item.texto(ItCodigo));
-        poe(r32, x, campos32);
-        m_saida.escreve(r32);
-
-        LinhaRegistro r33 = comItem(33, item);
-        r33.poe(QStringLiteral("CD_INT_INSUMO"), x.texto(Codigo));
-        r33.poe(QStringLiteral("QT_TOT_INS"), m_totalInsumo.value(x.texto(Codigo)));
-        r33.poe(QStringLiteral("CD_LOCAL_DESTINO"), m_cab.destino);
-        poe(r33, x, justificativas33);
+    const qint64 idItem = m_item.inteiro(ItId);
+    for (; m_insumos.de(idItem); m_insumos.avanca()) {
+        const ComandoSqlite& x = m_insumos.linha();
+        m_saida.escreve(m_r32.compoe(m_item, &x));
+        LinhaRegistro& r33 = m_r33.compoe(m_item, &x);
+        r33.poe(total, m_totalInsumo.value(x.texto(Codigo)));
+        r33.poe(local, m_cab.destino);
         m_saida.escreve(r33);
 
-        const qint64 insumo = x.valor(Id).toLongLong();
-        registro34(insumo);
-        registro35(insumo);
-        registro36(insumo);
+        const qint64 insumo = x.inteiro(1);
+        m_nfaIns.escreve(m_saida, insumo);
+        m_diIns.escreve(m_saida, insumo);
+        m_dsiIns.escreve(m_saida, insumo);
     }
 }
 
-void EscritaIndividual::registro34(qint64 insumo)
+void EscritaIndividual::produtoNacional()
 {
-    enum { Cnpj = 1, Serie, Numero, ItemNf, Data, Cfop, Dl288, Quantidade, Valor };
-    static const Colunas campos{{"NR_CNPJ_FORNECEDOR", Cnpj}, {"NR_SERIE_NF_AQUIS", Serie},
-                                {"NR_NF_AQUIS", Numero}, {"NR_ITEM_NF_AQUIS", ItemNf},
-                                {"DT_EMISS_NF_AQUIS", Data}, {"CD_CFOP_NF_AQUIS", Cfop},
-                                {"IND_DL_288_67", Dl288}, {"QT_INSUMO_UNID_NFS", Quantidade},
-                                {"VL_INS_PROD_UNID_NFS", Valor}};
-    for (; m_nfaIns->de(insumo); m_nfaIns->avanca()) {
-        const CursorFilhos& x = *m_nfaIns;
-        LinhaRegistro r(layout(34));
-        poe(r, x, campos);
-        m_saida.escreve(r);
-    }
-}
-
-void EscritaIndividual::registro35(qint64 insumo)
-{
-    enum { Numero = 1, Antiga, Adicao, ItemAdicao, Dl288, Quantidade, Valor, Moeda, Frete, MoedaFrete, Seguro,
-           MoedaSeguro, Suspensao };
-    static const Colunas campos{{"NR_DI", Numero, true}, {"NR_DI_ANTIGA", Antiga, true},
-                                {"NR_ADICAO_DI", Adicao}, {"NR_ITEM_ADICAO", ItemAdicao},
-                                {"IND_DL_288_67", Dl288}, {"QT_INSUMO_UNID_NFS", Quantidade}};
-    static const Colunas valores =
-        valoresImportacao(QStringLiteral("VL_INS_PROD_UNID_NFS"), QStringLiteral("NFS"), Valor);
-    for (; m_diIns->de(insumo); m_diIns->avanca()) {
-        const CursorFilhos& x = *m_diIns;
-        LinhaRegistro r(layout(35));
-        poe(r, x, campos);
-        if (x.texto(Dl288) == S)
-            poe(r, x, valores);
-        r.poe(QStringLiteral("IND_SUSP_PIS_COFINS"), x.texto(Suspensao));
-        m_saida.escreve(r);
-    }
-}
-
-void EscritaIndividual::registro36(qint64 insumo)
-{
-    enum { Numero = 1, Antiga, Bem, Quantidade, Valor, Moeda, Frete, MoedaFrete, Seguro, MoedaSeguro, Suspensao };
-    static const Colunas campos{{"NR_DSI", Numero, true}, {"NR_DSI_ANTIGA", Antiga, true}, {"NR_BEM", Bem},
-                                {"QT_INSUMO_UNID_NFS", Quantidade}};
-    static const Colunas valores =
-        valoresImportacao(QStringLiteral("VL_INS_UNID_PROD"), QStringLiteral("INT"), Valor);
-    for (; m_dsiIns->de(insumo); m_dsiIns->avanca()) {
-        const CursorFilhos& x = *m_dsiIns;
-        LinhaRegistro r(layout(36));
-        poe(r, x, campos);
-        // Written whatever the suspension indicator holds, unlike the monthly records 14 and 36.
-        poe(r, x, valores);
-        r.poe(QStringLiteral("IND_SUSP_PIS_COFINS"), x.texto(Suspensao));
-        m_saida.escreve(r);
-    }
-}
-
-void EscritaIndividual::produtoNacional(const ComandoSqlite& item)
-{
-    LinhaRegistro r = comItem(41, item);
-    r.poe(QStringLiteral("CD_NCM_PROD"), item.texto(ItNcm));
-    r.poe(QStringLiteral("CD_INT_PROD"), item.texto(ItCodigo));
-    r.poe(QStringLiteral("NM_INT_PROD"), item.texto(ItNome));
-    r.poe(QStringLiteral("NM_UNID_MED_PROD"), item.texto(ItUnidade));
-    r.poe(QStringLiteral("QT_INT_UNID_NFS"), item.texto(NaQtNfs));
-    r.poe(QStringLiteral("QT_INT_UNID_EST"), item.texto(NaQtEst));
-    r.poe(QStringLiteral("VL_INT_UNID_NFS"), item.texto(NaVlNfs));
-    m_saida.escreve(r);
+    m_saida.escreve(m_r41.compoe(m_item));
 }
 
 }  // namespace
@@ -392,7 +310,12 @@ void EscritaIndividual::produtoNacional(const ComandoSqlite& item)
 void GravaVrtIndividual(const CabecalhoVrt& cabecalho, GravacaoVrt& run)
 {
     EscritaRegistro::gravaArquivo(
-        cabecalho, run, [&](SaidaVrt& saida) { EscritaIndividual(cabecalho, run, saida).escreveItens(); },
+        cabecalho, run,
+        [&](SaidaVrt& saida) {
+            // A declaration without an exit invoice has no items.
+            if (!cabecalho.idNfs.isNull())
+                EscritaIndividual(cabecalho, run, saida).escreveItens();
+        },
         [](const SaidaVrt::Erro& erro) {
             switch (erro.numero) {
             case 61: return QStringLiteral("Espaço insuficiente no disco!");

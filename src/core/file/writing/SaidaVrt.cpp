@@ -83,18 +83,24 @@ void SaidaVrt::abre(const QString& caminho)
 
 void SaidaVrt::escreve(const LinhaRegistro& linha)
 {
-    m_texto.resize(0);
     // The next record begins at column 1: a line left open by a record without its own line end ends here.
     if (m_coluna > 1) {
-        m_texto += QLatin1String("\r\n");
+        m_buffer += "\r\n";
         m_coluna = 1;
     }
-    m_coluna = linha.compoeEm(m_texto, m_coluna);
+    const QByteArray& bytes = linha.bytes();
+    if (!bytes.isNull()) {
+        m_buffer += bytes;
+        m_coluna = 1 + int(bytes.size());
+    } else {
+        m_texto.resize(0);
+        m_coluna = linha.compoeEm(m_texto, m_coluna);
+        acrescentaCp1252(m_texto);
+    }
     if (!linha.layout().semFimDeLinha) {
-        m_texto += QLatin1String("\r\n");
+        m_buffer += "\r\n";
         m_coluna = 1;
     }
-    acrescentaCp1252(m_texto);
     if (m_buffer.size() >= TamanhoBuffer)
         descarrega();
 }

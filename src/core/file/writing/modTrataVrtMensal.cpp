@@ -7,26 +7,16 @@
 #include "core/file/writing/EscritaRegistro.h"
 #include "core/file/writing/GravaVrt.h"
 #include "core/file/writing/LinhaRegistro.h"
+#include "core/file/writing/MapaColunas.h"
 #include "core/file/writing/SaidaVrt.h"
 #include "core/rules/FormatoNumero.h"
-#include "core/store/modBancoDados.h"
 
 #include <QHash>
-#include <QSqlQuery>
 #include <memory>
-
-using namespace modBancoDados;
-using EscritaRegistro::Colunas;
-using EscritaRegistro::poe;
-using EscritaRegistro::valoresImportacao;
 
 namespace modTrataVrtMensal {
 
 namespace {
-
-const QString S = QStringLiteral("S");
-const QString N = QStringLiteral("N");
-const QString Branco = QStringLiteral(" ");
 
 const LayoutRegistro& layout(int tipo)
 {
@@ -41,49 +31,36 @@ const EscritaRegistro::NomesProduto& nomesProduto()
     return nomes;
 }
 
-// Columns of the item query.
-enum { ItId, ItModalidade, ItNcm, ItCodigo, ItNome, ItUnidade, ItQtEst, ItQtProd, ItVlProd, ItJustII, ItAliqII,
-       ItJustIPI, ItAliqIPI, ItNrDcreDcr, ItTipoCoef };
+// Columns of the item query that the writer reads itself; the others fill the records by their names.
+enum { ItId, ItModalidade, ItTipoCoef, ItCodigo };
 // Columns of the destination query (0 is the item).
-enum { DeItem, DeId, DeCodigo, DeQuantidade, DeVlII, DePcCoef, DeUnidade, DePis, DeCofins };
+enum { DeItem, DeId, DeCodigo, DeQuantidade };
 
+// The destinations of an item without basic process: its record 31 has a pair per destination, and its inputs
+// write their records destination by destination.
 struct Destino {
-    qint64 id = 0;
-    QString codigo, quantidade, vlII, pcCoef, unidade, pis, cofins;
+    QString codigo, quantidade;
 };
 
-class EscritaMensal {
-public:
-    EscritaMensal(const CabecalhoVrt& cabecalho, GravacaoVrt& run, SaidaVrt& saida)
-        : m_cab(cabecalho), m_run(run), m_saida(saida)
+// A record filled from the item's row and, where it has one, a destination's row.
+struct RegistroItem {
+    RegistroItem(int tipo, const ComandoSqlite& item, const ComandoSqlite* destino = nullptr)
+        : linha(layout(tipo)), doItem(layout(tipo), item)
     {
+        if (destino)
+            doDestino = MapaColunas(layout(tipo), *destino);
     }
-    void escreveItens();
-
-private:
-    QVector<Destino> destinosDoItem(qint64 item);
-    void produtoEstrangeiro(const ComandoSqlite& item, const QVector<Destino>& destinos);
-    void registro12(qint64 destino);
-    void registro13(qint64 destino);
-    void registro14(qint64 destino);
-    void produtoComPPB(const ComandoSqlite& item, const QVector<Destino>& destinos);
-    void produtoSemPPB(const ComandoSqlite& item, const QVector<Destino>& destinos);
-    void insumo(const ComandoSqlite& item, const QVector<Destino>& destinos);
-    void registro33(const QString& insumo, const QString& destino);
-    void documentosDoInsumo(const QString& insumo, const QString& destino);
-    void produtoNacional(const ComandoSqlite& item);
-    void preparaInsumos();
-
-    const CabecalhoVrt& m_cab;
-    GravacaoVrt& m_run;
-    SaidaVrt& m_saida;
-    std::unique_ptr<CursorFilhos> m_destinos, m_nfa, m_di, m_dsi, m_insumos;
-    std::unique_ptr<DocumentosInsumoMensal> m_docsInsumo;
-    QHash<QString, QString> m_totalInsumo;        // INSUMO_VRT by input
-    // TOT_INSUMO_CONSOLIDADO by destination and input; a Null destination or input has no row to be found.
-    QHash<QString, QString> m_totalPorDestino;
-    // The old DI number of the last record 35 that had one: record 35 keeps it when its own is missing.
-    QString m_diAntigaInsumo;
+    LinhaRegistro& compoe(const ComandoSqlite& item, const ComandoSqlite* destino = nullptr)
+    {
+        linha.limpa();
+        linha.preenche(item, doItem);
+        if (destino)
+            linha.preenche(*destino, doDestino);
+        return linha;
+    }
+    LinhaRegistro linha;
+    MapaColunas doItem;
+    MapaColunas doDestino;
 };
 
 QString chaveDestinoInsumo(const QString& destino, const QString& insumo)
@@ -91,167 +68,156 @@ QString chaveDestinoInsumo(const QString& destino, const QString& insumo)
     return destino + QChar(0x1F) + insumo;
 }
 
+class EscritaMensal {
+public:
+    EscritaMensal(const CabecalhoVrt& cabecalho, GravacaoVrt& run, SaidaVrt& saida);
+    void escreveItens();
+
+private:
+    void produtoEstrangeiro(qint64 item);
+    void produtoComPPB(qint64 item);
+    void produtoSemPPB(qint64 item);
+    void insumos(qint64 item, const QVector<Destino>& destinos);
+    void produtoNacional();
+    void preparaInsumos();
+
+    const CabecalhoVrt& m_cab;
+    GravacaoVrt& m_run;
+    SaidaVrt& m_saida;
+    ComandoSqlite m_item;
+    CursorFilhos m_destinos;
+    RegistroItem m_r11, m_r21, m_r31, m_r41;
+    EscritaRegistro::RegistrosFilhos m_nfa, m_di, m_dsi;
+    // Prepared with the first item without basic process.
+    std::unique_ptr<CursorFilhos> m_insumos;
+    std::unique_ptr<RegistroItem> m_r32, m_r33;
+    std::unique_ptr<DocumentosInsumoMensal> m_docsInsumo;
+    QHash<QString, QString> m_totalInsumo;        // INSUMO_VRT by input
+    // TOT_INSUMO_CONSOLIDADO by destination and input; a Null destination or input has no row to be found.
+    QHash<QString, QString> m_totalPorDestino;
+};
+
+// Every child query walks the items in the item query's order: modality, then the item's key.
+QString sqlItem()
+{
+    return QStringLiteral(
+        "SELECT i.ID_ITEM_VRT, i.IND_MOD_INTERNACAO, p.CD_TIPO_COEF_REDUCAO, i.CD_INT_PRODUTO, i.CD_NCM_PRODUTO, "
+        "i.NM_INT_PRODUTO, i.NM_UNID_MED_PROD, i.QT_PROD_UNID_EST, i.QT_PROD_UNID_PROD, i.VL_PROD_UNID_PROD, "
+        "j.JUST_II_DIF_TEC, j.ALIQ_II_DIF_TEC, j.JUST_IPI_DIF_TIPI, j.ALIQ_IPI_DIF_TIPI, "
+        // The number of the reduction document goes to the DCR-E field or the DCR field by its type.
+        "CASE p.CD_TIPO_COEF_REDUCAO WHEN '1' THEN p.NR_DCRE_DCR END AS NR_DCRE, "
+        "CASE p.CD_TIPO_COEF_REDUCAO WHEN '2' THEN p.NR_DCRE_DCR END AS NR_DCR FROM ITEM_VRT_MEN i "
+        "LEFT JOIN JUST_DIF_ALIQ_PROD_VRT_MEN j ON j.ID_ITEM_VRT = i.ID_ITEM_VRT "
+        "LEFT JOIN ITEM_VRT_MEN_PI_COM_PPB p ON p.rowid = (SELECT MIN(q.rowid) FROM "
+        "ITEM_VRT_MEN_PI_COM_PPB q WHERE q.ID_ITEM_VRT = i.ID_ITEM_VRT) "
+        "WHERE i.ID_VRT_MICRO = ? ORDER BY i.IND_MOD_INTERNACAO, i.ID_ITEM_VRT");
+}
+
+QString sqlDestinos()
+{
+    return QStringLiteral(
+        "SELECT d.ID_ITEM_VRT, d.ID_DEST_PRODUTO, d.CD_LOCAL_DESTINO, d.QT_PROD_LOC_DEST, "
+        "d.VL_II_UNIT_DOLAR, d.PC_COEF_REDUCAO_II, d.NM_UNID_MED_DEST, d.VL_PIS, d.VL_COFINS "
+        "FROM DESTINO_ITEM_VRT_MEN d JOIN ITEM_VRT_MEN i ON i.ID_ITEM_VRT = d.ID_ITEM_VRT "
+        "WHERE i.ID_VRT_MICRO = ? AND i.IND_MOD_INTERNACAO IN ('1', '2', '3') "
+        "ORDER BY i.IND_MOD_INTERNACAO, i.ID_ITEM_VRT, d.ID_DEST_PRODUTO");
+}
+
+// The documents of the foreign products' destinations, in the destinations' order.
+QString sqlDocumentoPE(const QString& colunas, const QString& tabelas, const QString& chave)
+{
+    return QStringLiteral("SELECT x.ID_DEST_PRODUTO, ") + colunas + QStringLiteral(" FROM ") + tabelas
+           + QStringLiteral(" JOIN DESTINO_ITEM_VRT_MEN d ON d.ID_DEST_PRODUTO = x.ID_DEST_PRODUTO "
+                            "JOIN ITEM_VRT_MEN i ON i.ID_ITEM_VRT = d.ID_ITEM_VRT WHERE i.ID_VRT_MICRO = ? "
+                            "AND i.IND_MOD_INTERNACAO = '1' ORDER BY i.ID_ITEM_VRT, d.ID_DEST_PRODUTO, x.")
+           + chave;
+}
+
+// IND_OBSOLE_RESIDUO in the DI query.
+constexpr int DiObsoleto = 6;
+
+QString sqlDi()
+{
+    // The import values under DL 288/67 of a line not obsolete, or under suspension of PIS/COFINS.
+    const QString valores = EscritaRegistro::valoresImportacao(
+        QStringLiteral("(x.IND_OBSOLE_RESIDUO = 'N' AND x.IND_DL_288_67 = 'S') OR x.IND_SUSP_PIS_COFINS = 'S'"),
+        QStringLiteral("m"), QStringLiteral("VL_PROD_UNID_PROD"), QStringLiteral("INT"));
+    return sqlDocumentoPE(
+        QStringLiteral("x.NR_DI, x.NR_DI_ANTIGA, x.NR_ADICAO_DI, x.NR_ITEM_ADICAO, x.IND_DL_288_67, "
+                       "x.IND_OBSOLE_RESIDUO, x.QT_PROD_UNID_PROD, ")
+            + valores + QStringLiteral(", ")
+            + EscritaRegistro::se(QStringLiteral("x.IND_OBSOLE_RESIDUO = 'S'"), QStringLiteral("m"),
+                                  QStringLiteral("VL_TOT_PROD_OBSOLE"), QStringLiteral("VL_TOT_PROD_OBSOLE"))
+            + QStringLiteral(", x.IND_SUSP_PIS_COFINS"),
+        QStringLiteral("ITEM_DI_PE_MEN x LEFT JOIN ITEM_IMPORT_288_PE_MEN m ON m.ID_ITEM_IMP_288 = "
+                       "(SELECT MIN(y.ID_ITEM_IMP_288) FROM ITEM_IMPORT_288_PE_MEN y WHERE y.ID_ITEM_DI = x.ID_ITEM_DI)"),
+        QStringLiteral("ID_ITEM_DI"));
+}
+
+EscritaMensal::EscritaMensal(const CabecalhoVrt& cabecalho, GravacaoVrt& run, SaidaVrt& saida)
+    : m_cab(cabecalho), m_run(run), m_saida(saida), m_item(sqlItem()),
+      m_destinos(sqlDestinos(), QVariantList{cabecalho.idVrtMicro}),
+      m_r11(11, m_item, &m_destinos.linha()), m_r21(21, m_item, &m_destinos.linha()), m_r31(31, m_item),
+      m_r41(41, m_item),
+      m_nfa(layout(12),
+            sqlDocumentoPE(EscritaRegistro::colunas12(nomesProduto()), QStringLiteral("ITEM_NFA_PE_MEN x"),
+                           QStringLiteral("ID_ITEM_NFA")),
+            QVariantList{cabecalho.idVrtMicro}),
+      m_di(layout(13), sqlDi(), QVariantList{cabecalho.idVrtMicro},
+           [&run](LinhaRegistro&, const ComandoSqlite& x) {
+               // The individual writer reads this working value later in the run.
+               run.obsoleResiduoMensal = x.texto(DiObsoleto);
+           }),
+      m_dsi(layout(14),
+            sqlDocumentoPE(EscritaRegistro::colunas14(nomesProduto()), QStringLiteral("ITEM_DSI_PE_MEN x"),
+                           QStringLiteral("ID_ITEM_DSI")),
+            QVariantList{cabecalho.idVrtMicro})
+{
+}
 void EscritaMensal::escreveItens()
 {
-    const QString& id = m_cab.idVrtMicro;
-    // Every child query walks the items in the item query's order: modality, then the item's key.
-    m_destinos = std::make_unique<CursorFilhos>(
-        QStringLiteral("SELECT d.ID_ITEM_VRT, d.ID_DEST_PRODUTO, d.CD_LOCAL_DESTINO, d.QT_PROD_LOC_DEST, "
-                       "d.VL_II_UNIT_DOLAR, d.PC_COEF_REDUCAO_II, d.NM_UNID_MED_DEST, d.VL_PIS, d.VL_COFINS "
-                       "FROM DESTINO_ITEM_VRT_MEN d JOIN ITEM_VRT_MEN i ON i.ID_ITEM_VRT = d.ID_ITEM_VRT "
-                       "WHERE i.ID_VRT_MICRO = ? AND i.IND_MOD_INTERNACAO IN ('1', '2', '3') "
-                       "ORDER BY i.IND_MOD_INTERNACAO, i.ID_ITEM_VRT, d.ID_DEST_PRODUTO"),
-        QVariantList{id});
-    const QString dePE = QStringLiteral(
-        " JOIN DESTINO_ITEM_VRT_MEN d ON d.ID_DEST_PRODUTO = x.ID_DEST_PRODUTO "
-        "JOIN ITEM_VRT_MEN i ON i.ID_ITEM_VRT = d.ID_ITEM_VRT WHERE i.ID_VRT_MICRO = ? AND i.IND_MOD_INTERNACAO = '1' "
-        "ORDER BY i.ID_ITEM_VRT, d.ID_DEST_PRODUTO, ");
-    m_nfa = std::make_unique<CursorFilhos>(
-        QStringLiteral("SELECT x.ID_DEST_PRODUTO, x.NR_CNPJ_FORNECEDOR, x.NR_SERIE_NF_AQUIS, x.NR_NF_AQUIS, "
-                       "x.NR_ITEM_NF_AQUIS, x.DT_EMISS_NF_AQUIS, x.CD_CFOP_NF_AQUIS, x.IND_DL_288_67, "
-                       "x.IND_OBSOLE_RESIDUO, x.QT_PROD_UNID_PROD, x.VL_PROD_UNID_PROD, x.VL_TOT_PROD_OBSOLE "
-                       "FROM ITEM_NFA_PE_MEN x")
-            + dePE + QStringLiteral("x.ID_ITEM_NFA"),
-        QVariantList{id});
-    m_di = std::make_unique<CursorFilhos>(
-        QStringLiteral("SELECT x.ID_DEST_PRODUTO, x.NR_DI, x.NR_DI_ANTIGA, x.NR_ADICAO_DI, x.NR_ITEM_ADICAO, "
-                       "x.IND_DL_288_67, x.IND_OBSOLE_RESIDUO, x.QT_PROD_UNID_PROD, m.VL_PROD_UNID_PROD, "
-                       "m.CD_MOEDA_NEG, m.VL_FRETE_UNID_INT, m.CD_MOEDA_FRETE, m.VL_SEGURO_UNID_INT, "
-                       "m.CD_MOEDA_SEGURO, m.VL_TOT_PROD_OBSOLE, x.IND_SUSP_PIS_COFINS FROM ITEM_DI_PE_MEN x "
-                       "LEFT JOIN ITEM_IMPORT_288_PE_MEN m ON m.ID_ITEM_IMP_288 = (SELECT MIN(y.ID_ITEM_IMP_288) "
-                       "FROM ITEM_IMPORT_288_PE_MEN y WHERE y.ID_ITEM_DI = x.ID_ITEM_DI)")
-            + dePE + QStringLiteral("x.ID_ITEM_DI"),
-        QVariantList{id});
-    m_dsi = std::make_unique<CursorFilhos>(
-        QStringLiteral("SELECT x.ID_DEST_PRODUTO, x.NR_DSI, x.NR_DSI_ANTIGA, x.NR_BEM, x.QT_PROD_UNID_PROD, "
-                       "x.VL_PROD_UNID_PROD, x.CD_MOEDA_NEG, x.VL_FRETE_UNID_INT, x.CD_MOEDA_FRETE, "
-                       "x.VL_SEGURO_UNID_INT, x.CD_MOEDA_SEGURO, x.IND_SUSP_PIS_COFINS FROM ITEM_DSI_PE_MEN x")
-            + dePE + QStringLiteral("x.ID_ITEM_DSI"),
-        QVariantList{id});
-
-    ComandoSqlite item(
-                 QStringLiteral("SELECT i.ID_ITEM_VRT, i.IND_MOD_INTERNACAO, i.CD_NCM_PRODUTO, i.CD_INT_PRODUTO, "
-                                "i.NM_INT_PRODUTO, i.NM_UNID_MED_PROD, i.QT_PROD_UNID_EST, i.QT_PROD_UNID_PROD, "
-                                "i.VL_PROD_UNID_PROD, j.JUST_II_DIF_TEC, j.ALIQ_II_DIF_TEC, j.JUST_IPI_DIF_TIPI, "
-                                "j.ALIQ_IPI_DIF_TIPI, p.NR_DCRE_DCR, p.CD_TIPO_COEF_REDUCAO FROM ITEM_VRT_MEN i "
-                                "LEFT JOIN JUST_DIF_ALIQ_PROD_VRT_MEN j ON j.ID_ITEM_VRT = i.ID_ITEM_VRT "
-                                "LEFT JOIN ITEM_VRT_MEN_PI_COM_PPB p ON p.rowid = (SELECT MIN(q.rowid) FROM "
-                                "ITEM_VRT_MEN_PI_COM_PPB q WHERE q.ID_ITEM_VRT = i.ID_ITEM_VRT) "
-                                "WHERE i.ID_VRT_MICRO = ? ORDER BY i.IND_MOD_INTERNACAO, i.ID_ITEM_VRT"));
-    item.abre({id});
-    while (item.proxima()) {
-        const QString modalidade = item.texto(ItModalidade);
-        const qint64 idItem = item.inteiro(ItId);
+    m_item.abre({m_cab.idVrtMicro});
+    while (m_item.proxima()) {
+        const QString modalidade = m_item.texto(ItModalidade);
+        const qint64 idItem = m_item.inteiro(ItId);
         if (modalidade == QLatin1String("1")) {
-            produtoEstrangeiro(item, destinosDoItem(idItem));
+            produtoEstrangeiro(idItem);
         } else if (modalidade == QLatin1String("2")) {
-            produtoComPPB(item, destinosDoItem(idItem));
+            produtoComPPB(idItem);
         } else if (modalidade == QLatin1String("3")) {
             if (!m_insumos)
                 preparaInsumos();
-            produtoSemPPB(item, destinosDoItem(idItem));
+            produtoSemPPB(idItem);
         } else if (modalidade == QLatin1String("4")) {
-            produtoNacional(item);
+            produtoNacional();
         }
     }
 }
 
-QVector<Destino> EscritaMensal::destinosDoItem(qint64 item)
+void EscritaMensal::produtoEstrangeiro(qint64 item)
 {
-    QVector<Destino> v;
-    for (; m_destinos->de(item); m_destinos->avanca()) {
-        Destino d;
-        d.id = m_destinos->valor(DeId).toLongLong();
-        d.codigo = m_destinos->texto(DeCodigo);
-        d.quantidade = m_destinos->texto(DeQuantidade);
-        d.vlII = m_destinos->texto(DeVlII);
-        d.pcCoef = m_destinos->texto(DePcCoef);
-        d.unidade = m_destinos->texto(DeUnidade);
-        d.pis = m_destinos->texto(DePis);
-        d.cofins = m_destinos->texto(DeCofins);
-        v.append(d);
-    }
-    return v;
-}
-
-void EscritaMensal::produtoEstrangeiro(const ComandoSqlite& item, const QVector<Destino>& destinos)
-{
-    for (const Destino& d : destinos) {
-        LinhaRegistro r(layout(11));
-        r.poe(QStringLiteral("CD_NCM_PRODUTO"), item.texto(ItNcm));
-        r.poe(QStringLiteral("CD_INT_PRODUTO"), item.texto(ItCodigo));
-        r.poe(QStringLiteral("CD_LOCAL_DESTINO"), d.codigo);
-        r.poe(QStringLiteral("NM_INT_PRODUTO"), item.texto(ItNome));
-        // A justification row fills both pairs; without one they stay blanks and zeros.
-        r.poe(QStringLiteral("JUST_II_DIF_TEC"), item.texto(ItJustII));
-        r.poe(QStringLiteral("ALIQ_II_DIF_TEC"), item.texto(ItAliqII));
-        r.poe(QStringLiteral("JUST_IPI_DIF_TIPI"), item.texto(ItJustIPI));
-        r.poe(QStringLiteral("ALIQ_IPI_DIF_TIPI"), item.texto(ItAliqIPI));
-        r.poe(QStringLiteral("QT_PROD_UNID_EST"), item.texto(ItQtEst));
-        r.poe(QStringLiteral("QT_PROD_LOC_DEST"), d.quantidade);
-        r.poe(QStringLiteral("NM_UNID_MED_PROD"), item.texto(ItUnidade));
-        m_saida.escreve(r);
-        registro12(d.id);
-        registro13(d.id);
-        registro14(d.id);
+    // A justification row fills both pairs of record 11; without one they stay blanks and zeros.
+    for (; m_destinos.de(item); m_destinos.avanca()) {
+        m_saida.escreve(m_r11.compoe(m_item, &m_destinos.linha()));
+        const qint64 destino = m_destinos.linha().inteiro(DeId);
+        m_nfa.escreve(m_saida, destino);
+        m_di.escreve(m_saida, destino);
+        m_dsi.escreve(m_saida, destino);
     }
 }
 
-void EscritaMensal::registro12(qint64 destino)
+void EscritaMensal::produtoComPPB(qint64 item)
 {
-    EscritaRegistro::escreveRegistros12(m_saida, layout(12), *m_nfa, destino, nomesProduto());
-}
-
-void EscritaMensal::registro13(qint64 destino)
-{
-    enum { Numero = 1, Antiga, Adicao, ItemAdicao, Dl288, Obsoleto, Quantidade, Valor, Moeda, Frete, MoedaFrete,
-           Seguro, MoedaSeguro, ValorObsoleto, Suspensao };
-    static const Colunas campos{{"NR_DI", Numero}, {"NR_DI_ANTIGA", Antiga}, {"NR_ADICAO_DI", Adicao},
-                                {"NR_ITEM_ADICAO", ItemAdicao}, {"IND_DL_288_67", Dl288},
-                                {"IND_OBSOLE_RESIDUO", Obsoleto}, {"QT_PROD_UNID_PROD", Quantidade}};
-    static const Colunas valores =
-        valoresImportacao(QStringLiteral("VL_PROD_UNID_PROD"), QStringLiteral("INT"), Valor);
-    for (; m_di->de(destino); m_di->avanca()) {
-        const CursorFilhos& x = *m_di;
-        const QString obsoleto = x.texto(Obsoleto);
-        // The individual writer reads this working value later in the run.
-        m_run.obsoleResiduoMensal = obsoleto;
-        LinhaRegistro r(layout(13));
-        poe(r, x, campos);
-        if ((obsoleto == N && x.texto(Dl288) == S) || x.texto(Suspensao) == S)
-            poe(r, x, valores);
-        if (obsoleto == S)
-            r.poe(QStringLiteral("VL_TOT_PROD_OBSOLE"), x.texto(ValorObsoleto));
-        r.poe(QStringLiteral("IND_SUSP_PIS_COFINS"), x.texto(Suspensao));
-        m_saida.escreve(r);
-    }
-}
-
-void EscritaMensal::registro14(qint64 destino)
-{
-    EscritaRegistro::escreveRegistros14(m_saida, layout(14), *m_dsi, destino, nomesProduto());
-}
-
-void EscritaMensal::produtoComPPB(const ComandoSqlite& item, const QVector<Destino>& destinos)
-{
-    const QString tipo = item.texto(ItTipoCoef);
-    const QString numero = item.texto(ItNrDcreDcr);
-    for (const Destino& d : destinos) {
-        LinhaRegistro r(layout(21));
-        r.poe(QStringLiteral("CD_LOCAL_DESTINO"), d.codigo);
-        if (tipo == QLatin1String("1"))
-            r.poe(QStringLiteral("NR_DCRE"), numero);
-        r.poe(QStringLiteral("CD_INT_PRODUTO"), item.texto(ItCodigo));
-        if (tipo == QLatin1String("2")) {
-            r.poe(QStringLiteral("NR_DCR"), numero);
-            r.poe(QStringLiteral("VL_II_UNIT_DOLAR"), d.vlII);
-            r.poe(QStringLiteral("PC_COEF_REDUCAO_II"), d.pcCoef);
+    static const int vlII = layout(21).indice(QStringLiteral("VL_II_UNIT_DOLAR"));
+    static const int coeficiente = layout(21).indice(QStringLiteral("PC_COEF_REDUCAO_II"));
+    // The destination's II value and reduction coefficient belong to a DCR only.
+    const bool dcr = m_item.texto(ItTipoCoef) == QLatin1String("2");
+    for (; m_destinos.de(item); m_destinos.avanca()) {
+        LinhaRegistro& r = m_r21.compoe(m_item, &m_destinos.linha());
+        if (!dcr) {
+            r.poe(vlII, QString());
+            r.poe(coeficiente, QString());
         }
-        r.poe(QStringLiteral("NM_INT_PRODUTO"), item.texto(ItNome));
-        r.poe(QStringLiteral("QT_PROD_LOC_DEST"), d.quantidade);
-        r.poe(QStringLiteral("NM_UNID_MED_DEST"), d.unidade);
-        r.poe(QStringLiteral("VL_PIS"), d.pis);
-        r.poe(QStringLiteral("VL_COFINS"), d.cofins);
         m_saida.escreve(r);
     }
 }
@@ -259,165 +225,86 @@ void EscritaMensal::produtoComPPB(const ComandoSqlite& item, const QVector<Desti
 void EscritaMensal::preparaInsumos()
 {
     const QString& id = m_cab.idVrtMicro;
+    // Record 33 takes each justification pair only where its aliquot is there and is not one blank.
     m_insumos = std::make_unique<CursorFilhos>(
-        QStringLiteral("SELECT s.ID_ITEM_VRT, s.ID_INSUMO_ITEM, s.CD_INT_INSUMO, s.CD_NCM_INSUMO, s.NM_INT_INSUMO, "
-                       "s.NM_UNID_MED_INSUMO, s.QT_INSUMO_POR_PROD, j.JUST_II_DIF_TEC, j.ALIQ_II_DIF_TEC, "
-                       "j.JUST_IPI_DIF_TIPI, j.ALIQ_IPI_DIF_TIPI FROM INSUMO_ITEM_VRT_MEN s "
-                       "JOIN ITEM_VRT_MEN i ON i.ID_ITEM_VRT = s.ID_ITEM_VRT "
+        QStringLiteral("SELECT s.ID_ITEM_VRT, s.CD_INT_INSUMO, s.CD_NCM_INSUMO, s.NM_INT_INSUMO, "
+                       "s.NM_UNID_MED_INSUMO, s.QT_INSUMO_POR_PROD, "
+                       "CASE WHEN NULLIF(j.ALIQ_II_DIF_TEC, ' ') IS NOT NULL THEN j.JUST_II_DIF_TEC END "
+                       "AS JUST_II_DIF_TEC, NULLIF(j.ALIQ_II_DIF_TEC, ' ') AS ALIQ_II_DIF_TEC, "
+                       "CASE WHEN NULLIF(j.ALIQ_IPI_DIF_TIPI, ' ') IS NOT NULL THEN j.JUST_IPI_DIF_TIPI END "
+                       "AS JUST_IPI_DIF_TIPI, NULLIF(j.ALIQ_IPI_DIF_TIPI, ' ') AS ALIQ_IPI_DIF_TIPI "
+                       "FROM INSUMO_ITEM_VRT_MEN s JOIN ITEM_VRT_MEN i ON i.ID_ITEM_VRT = s.ID_ITEM_VRT "
                        "LEFT JOIN JUST_DIF_ALIQ_INS_VRT_MEN j ON j.ID_INSUMO_ITEM = s.ID_INSUMO_ITEM "
                        "WHERE i.ID_VRT_MICRO = ? AND i.IND_MOD_INTERNACAO = '3' "
                        "ORDER BY i.ID_ITEM_VRT, s.ID_INSUMO_ITEM"),
         QVariantList{id});
+    m_r32 = std::make_unique<RegistroItem>(32, m_item, &m_insumos->linha());
+    m_r33 = std::make_unique<RegistroItem>(33, m_insumos->linha());
     m_docsInsumo = std::make_unique<DocumentosInsumoMensal>(id);
 
-    QSqlQuery rs(ConexaoBanco());
-    rs.setForwardOnly(true);
-    AbreConsulta(rs, QStringLiteral("SELECT CD_INT_INSUMO, QT_TOT_INS_EST FROM INSUMO_VRT WHERE ID_VRT_MICRO = ?"),
-                 {id});
-    while (rs.next())
-        m_totalInsumo.insert(rs.value(0).toString(), rs.value(1).toString());
-    rs.finish();
-    QSqlQuery tot(ConexaoBanco());
-    tot.setForwardOnly(true);
-    AbreConsulta(tot,
-                 QStringLiteral("SELECT CD_LOCAL_DESTINO, CD_INT_INSUMO, QT_TOT_INS_POR_LOC "
-                                "FROM TOT_INSUMO_CONSOLIDADO WHERE ID_VRT_MICRO = ? "
-                                "AND CD_LOCAL_DESTINO IS NOT NULL AND CD_INT_INSUMO IS NOT NULL"),
-                 {id});
-    while (tot.next())
-        m_totalPorDestino.insert(chaveDestinoInsumo(tot.value(0).toString(), tot.value(1).toString()),
-                                 tot.value(2).toString());
+    ComandoSqlite rs(QStringLiteral("SELECT CD_INT_INSUMO, QT_TOT_INS_EST FROM INSUMO_VRT WHERE ID_VRT_MICRO = ?"));
+    rs.abre({id});
+    while (rs.proxima())
+        m_totalInsumo.insert(rs.texto(0), rs.texto(1));
+    ComandoSqlite tot(QStringLiteral("SELECT CD_LOCAL_DESTINO, CD_INT_INSUMO, QT_TOT_INS_POR_LOC "
+                                     "FROM TOT_INSUMO_CONSOLIDADO WHERE ID_VRT_MICRO = ? "
+                                     "AND CD_LOCAL_DESTINO IS NOT NULL AND CD_INT_INSUMO IS NOT NULL"));
+    tot.abre({id});
+    while (tot.proxima())
+        m_totalPorDestino.insert(chaveDestinoInsumo(tot.texto(0), tot.texto(1)), tot.texto(2));
 }
 
-void EscritaMensal::produtoSemPPB(const ComandoSqlite& item, const QVector<Destino>& destinos)
+void EscritaMensal::produtoSemPPB(qint64 item)
 {
-    LinhaRegistro r(layout(31));
-    r.poe(QStringLiteral("CD_INT_PRODUTO"), item.texto(ItCodigo));
-    r.poe(QStringLiteral("NM_INT_PRODUTO"), item.texto(ItNome));
-    r.poe(QStringLiteral("NM_UNID_MED_PROD"), item.texto(ItUnidade));
-    r.poe(QStringLiteral("CD_NCM_PRODUTO"), item.texto(ItNcm));
+    static const QVector<int> pares = [] {
+        QVector<int> v;
+        for (int d = 1; d <= 4; ++d)
+            v << layout(31).indice(QStringLiteral("QT_PROD_LOC_DEST_") + QString::number(d));
+        return v;
+    }();
+    QVector<Destino> destinos;
+    for (; m_destinos.de(item); m_destinos.avanca())
+        destinos.append({m_destinos.texto(DeCodigo), m_destinos.texto(DeQuantidade)});
+    LinhaRegistro& r = m_r31.compoe(m_item);
     // One pair per destination code; a code without a row keeps its zeros.
     for (const Destino& d : destinos) {
         if (d.codigo.size() == 1 && d.codigo >= QLatin1String("1") && d.codigo <= QLatin1String("4"))
-            r.poe(QStringLiteral("QT_PROD_LOC_DEST_") + d.codigo, d.quantidade);
+            r.poe(pares.at(d.codigo.toInt() - 1), d.quantidade);
     }
     m_saida.escreve(r);
-    insumo(item, destinos);
+    insumos(item, destinos);
 }
 
-void EscritaMensal::insumo(const ComandoSqlite& item, const QVector<Destino>& destinos)
+void EscritaMensal::insumos(qint64 item, const QVector<Destino>& destinos)
 {
-    enum { Id = 1, Codigo, Ncm, Nome, Unidade, Quantidade, JustII, AliqII, JustIPI, AliqIPI };
-    static const Colunas campos32{{"CD_INT_INSUMO", Codigo}, {"CD_NCM_INSUMO", Ncm}, {"NM_INT_INSUMO", Nome},
-                                  {"NM_UNID_MED_INSUMO", Unidade}, {"QT_INSUMO_POR_PROD", Quantidade}};
-    const qint64 idItem = item.inteiro(ItId);
-    for (; m_insumos->de(idItem); m_insumos->avanca()) {
-        const CursorFilhos& x = *m_insumos;
+    enum { Codigo = 1 };
+    static const int estoque = layout(33).indice(QStringLiteral("QT_TOT_INS_EST"));
+    static const int local = layout(33).indice(QStringLiteral("CD_LOCAL_DESTINO"));
+    static const int porLocal = layout(33).indice(QStringLiteral("QT_TOT_INS_POR_LOC"));
+    for (; m_insumos->de(item); m_insumos->avanca()) {
+        const ComandoSqlite& x = m_insumos->linha();
         const QString codigo = x.texto(Codigo);
-        LinhaRegistro r(layout(32));
-        r.poe(QStringLiteral("CD_INT_PRODUTO"), item.texto(ItCodigo));
-        poe(r, x, campos32);
-        m_saida.escreve(r);
+        m_saida.escreve(m_r32->compoe(m_item, &x));
 
-        LinhaRegistro base(layout(33));
-        base.poe(QStringLiteral("CD_INT_INSUMO"), codigo);
-        base.poe(QStringLiteral("QT_TOT_INS_EST"), m_totalInsumo.value(codigo));
-        // Each pair is taken only where its aliquot is there and is not one blank.
-        const QVariant aliqII = x.valor(AliqII);
-        if (!aliqII.isNull() && aliqII.toString() != Branco) {
-            base.poe(QStringLiteral("JUST_II_DIF_TEC"), x.texto(JustII));
-            base.poe(QStringLiteral("ALIQ_II_DIF_TEC"), aliqII.toString());
-        }
-        const QVariant aliqIPI = x.valor(AliqIPI);
-        if (!aliqIPI.isNull() && aliqIPI.toString() != Branco) {
-            base.poe(QStringLiteral("JUST_IPI_DIF_TIPI"), x.texto(JustIPI));
-            base.poe(QStringLiteral("ALIQ_IPI_DIF_TIPI"), aliqIPI.toString());
-        }
+        LinhaRegistro& base = m_r33->compoe(x);
+        base.poe(estoque, m_totalInsumo.value(codigo));
         for (const Destino& d : destinos) {
             // Record 33 only where the consolidation has the input at this destination; its documents anyway.
             const auto total = m_totalPorDestino.constFind(chaveDestinoInsumo(d.codigo, codigo));
             if (total != m_totalPorDestino.constEnd()) {
                 LinhaRegistro r33 = base;
-                r33.poe(QStringLiteral("CD_LOCAL_DESTINO"), d.codigo);
-                r33.poe(QStringLiteral("QT_TOT_INS_POR_LOC"),
-                        Funcoes::FormataNumero(total.value(), QStringLiteral("0.00000")));
+                r33.poe(local, d.codigo);
+                r33.poe(porLocal, Funcoes::FormataNumero(total.value(), QStringLiteral("0.00000")));
                 m_saida.escreve(r33);
             }
-            documentosDoInsumo(codigo, d.codigo);
+            m_docsInsumo->escreve(m_saida, codigo, d.codigo);
         }
     }
 }
 
-void EscritaMensal::documentosDoInsumo(const QString& insumo, const QString& destino)
+void EscritaMensal::produtoNacional()
 {
-    using D = DocumentosInsumoMensal;
-    const D::Grupo& documentos = m_docsInsumo->de(insumo, destino);
-    static const Colunas campos34{{"NR_CNPJ_FORNECEDOR", D::NfaCnpj}, {"NR_SERIE_NF_AQUIS", D::NfaSerie},
-                                  {"NR_NF_AQUIS", D::NfaNumero}, {"NR_ITEM_NF_AQUIS", D::NfaItem},
-                                  {"DT_EMISS_NF_AQUIS", D::NfaData}, {"CD_CFOP_NF_AQUIS", D::NfaCfop}};
-    static const Colunas fim34{{"QT_INSUMO_UNID_INS", D::NfaQuantidade}, {"VL_INSUMO_UNID_INS", D::NfaValor},
-                               {"CD_INT_INSUMO", D::NfaInsumo}, {"CD_LOCAL_DESTINO", D::NfaDestino}};
-    for (const QStringList& x : documentos.nfa) {
-        LinhaRegistro r(layout(34));
-        poe(r, x, campos34);
-        r.poe(QStringLiteral("IND_DL_288_67"), x.at(D::NfaDl288) == S ? S : N);
-        poe(r, x, fim34);
-        m_saida.escreve(r);
-    }
-    static const Colunas valores35 =
-        valoresImportacao(QStringLiteral("VL_INSUMO_UNID_INS"), QStringLiteral("INT"), D::DiValor);
-    for (const QStringList& x : documentos.di) {
-        LinhaRegistro r(layout(35));
-        QString nrDi = x.at(D::DiNumero) == Branco ? QStringLiteral("0000000000")
-                                                   : LinhaRegistro::formata(r.layout().campo(QStringLiteral("NR_DI")),
-                                                                            x.at(D::DiNumero));
-        // The old writer's fault, kept: a missing old number puts its 15 zeros into the DI number, which then
-        // breaks the line, and the old number of the previous record 35 is written again.
-        if (x.at(D::DiAntigaNula) == S || x.at(D::DiAntiga) == Branco)
-            nrDi = QString(15, u'0');
-        else
-            m_diAntigaInsumo = LinhaRegistro::formata(r.layout().campo(QStringLiteral("NR_DI_ANTIGA")),
-                                                      x.at(D::DiAntiga));
-        r.poeComoEsta(QStringLiteral("NR_DI"), nrDi);
-        r.poeComoEsta(QStringLiteral("NR_DI_ANTIGA"), m_diAntigaInsumo);
-        r.poe(QStringLiteral("NR_ADICAO_DI"), x.at(D::DiAdicao));
-        r.poe(QStringLiteral("NR_ITEM_ADICAO"), x.at(D::DiItemAdicao));
-        const QString dl = x.at(D::DiDl288) == S ? S : N;
-        r.poe(QStringLiteral("IND_DL_288_67"), dl);
-        r.poe(QStringLiteral("QT_INSUMO_UNID_INS"), x.at(D::DiQuantidade));
-        if (dl == S || x.at(D::DiSuspensao) == S)
-            poe(r, x, valores35);
-        r.poe(QStringLiteral("CD_INT_INSUMO"), x.at(D::DiInsumo));
-        r.poe(QStringLiteral("CD_LOCAL_DESTINO"), x.at(D::DiDestino));
-        r.poe(QStringLiteral("IND_SUSP_PIS_COFINS"), x.at(D::DiSuspensao));
-        m_saida.escreve(r);
-    }
-    static const Colunas campos36{{"NR_DSI", D::DsiNumero, true}, {"NR_DSI_ANTIGA", D::DsiAntiga, true},
-                                  {"NR_BEM", D::DsiBem}, {"QT_INSUMO_UNID_INS", D::DsiQuantidade},
-                                  {"CD_INT_INSUMO", D::DsiInsumo}, {"CD_LOCAL_DESTINO", D::DsiDestino}};
-    static const Colunas valores36 =
-        valoresImportacao(QStringLiteral("VL_PROD_UNID_PROD"), QStringLiteral("INT"), D::DsiValor);
-    for (const QStringList& x : documentos.dsi) {
-        LinhaRegistro r(layout(36));
-        poe(r, x, campos36);
-        if (x.at(D::DsiSuspensao) == S)
-            poe(r, x, valores36);
-        r.poe(QStringLiteral("IND_SUSP_PIS_COFINS"), x.at(D::DsiSuspensao));
-        m_saida.escreve(r);
-    }
-}
-
-void EscritaMensal::produtoNacional(const ComandoSqlite& item)
-{
-    LinhaRegistro r(layout(41));
-    r.poe(QStringLiteral("CD_NCM_PRODUTO"), item.texto(ItNcm));
-    r.poe(QStringLiteral("CD_INT_PRODUTO"), item.texto(ItCodigo));
-    r.poe(QStringLiteral("NM_INT_PRODUTO"), item.texto(ItNome));
-    r.poe(QStringLiteral("NM_UNID_MED_PROD"), item.texto(ItUnidade));
-    r.poe(QStringLiteral("VL_PROD_UNID_PROD"), item.texto(ItVlProd));
-    r.poe(QStringLiteral("QT_PROD_UNID_PROD"), item.texto(ItQtProd));
-    r.poe(QStringLiteral("QT_PROD_UNID_EST"), item.texto(ItQtEst));
-    m_saida.escreve(r);
+    m_saida.escreve(m_r41.compoe(m_item));
 }
 
 }  // namespace
