@@ -228,7 +228,7 @@ bool ComandoSqlite::utf8(int coluna, QByteArrayView& texto) const
     const int tipo = sqlite3_column_type(m_stmt, coluna);
     if (tipo != SQLITE_TEXT && tipo != SQLITE_INTEGER) {
         texto = QByteArrayView();
-        return false;
+        return tipo == SQLITE_NULL;
     }
     const auto* t = reinterpret_cast<const char*>(sqlite3_column_text(m_stmt, coluna));
     texto = QByteArrayView(t, sqlite3_column_bytes(m_stmt, coluna));

@@ -60,7 +60,7 @@ public:
     // The name the engine gives a column of the result: its alias, else the column's own name.
     QString nomeColuna(int coluna) const;
     // The current row's column without any conversion, for code that composes bytes: true with the engine's
-    // UTF-8 for a text or an integer (its digits, as texto() gives them), false for a NULL (`texto` empty) and
+    // UTF-8 for a text or an integer (its digits, as texto() gives them) and with a null view for a NULL; false
     // for a real or a blob, which only valor()/texto() tell as QSqlQuery would. Valid until the next step.
     bool utf8(int coluna, QByteArrayView& texto) const;
 

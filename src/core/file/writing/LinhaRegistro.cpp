@@ -75,6 +75,30 @@ void zeroEsquerda(QByteArrayView v, int tamanho, QByteArray& saida)
     saida.append(v);
 }
 
+// TiraCaractere of the comma, then ZeroEsquerda: what is left without its commas, zero-filled; "0" for a value
+// that is blank before or after the commas go.
+void decimal(QByteArrayView v, int tamanho, QByteArray& saida)
+{
+    qsizetype digitos = 0;
+    bool branco = true;
+    for (const char c : v) {
+        if (c != ',') {
+            ++digitos;
+            branco = branco && espaco(c);
+        }
+    }
+    if (emBranco(v) || branco) {
+        zeroEsquerda(QByteArrayView(), tamanho, saida);
+        return;
+    }
+    if (digitos < tamanho)
+        saida.append(tamanho - digitos, '0');
+    for (const char c : v) {
+        if (c != ',')
+            saida.append(c);
+    }
+}
+
 // QString::mid on bytes: nothing from beyond the end.
 QByteArrayView meio(QByteArrayView v, qsizetype inicio, qsizetype tamanho)
 {
@@ -109,24 +133,18 @@ bool LinhaRegistro::formataAscii(const CampoLayout& campo, QByteArrayView valor,
         return true;
     case TipoCampo::D2:
     case TipoCampo::D5:
-    case TipoCampo::D7: {
-        QByteArray semVirgula;
-        if (emBranco(valor)) {
-            semVirgula = "0";
-        } else {
-            semVirgula.reserve(valor.size());
-            for (const char c : valor) {
-                if (c != ',')
-                    semVirgula.append(c);
-            }
-        }
-        zeroEsquerda(semVirgula, w, saida);
+    case TipoCampo::D7:
+        decimal(valor, w, saida);
         return true;
-    }
     case TipoCampo::DT: {
-        QByteArray data;
-        data.append(meio(valor, 4, 4)).append(meio(valor, 2, 2)).append(meio(valor, 0, 2));
-        zeroEsquerda(data, 8, saida);
+        // Characters 5-8, 3-4 and 1-2 of ddmmyyyy, as far as the value has them.
+        char data[8];
+        qsizetype n = 0;
+        for (const QByteArrayView parte : {meio(valor, 4, 4), meio(valor, 2, 2), meio(valor, 0, 2)}) {
+            for (const char c : parte)
+                data[n++] = c;
+        }
+        zeroEsquerda(QByteArrayView(data, n), 8, saida);
         return true;
     }
     case TipoCampo::K:

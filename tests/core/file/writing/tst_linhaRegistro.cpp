@@ -14,6 +14,10 @@ private slots:
     void valorLongoDemaisEmpurraOCampoSeguinteParaNovaLinha();
     void valorCurtoComoEstaELevadoAteAColunaSeguinte();
     void constanteDoRegistroPodeSerEscolhida();
+    void bytesDoBancoFormatadosComoOTexto_data();
+    void bytesDoBancoFormatadosComoOTexto();
+    void textoForaDoAsciiFicaComOTexto();
+    void campoDeOutraLarguraDesfazALinhaEmCampos();
 };
 
 namespace {
@@ -103,6 +107,67 @@ void tst_linhaRegistro::constanteDoRegistroPodeSerEscolhida()
     QCOMPARE(l.valor(QStringLiteral("TIPO_REGISTRO")), QStringLiteral("31"));
     QCOMPARE(l.valor(QStringLiteral("ZEROS_3")), QStringLiteral("000"));
     QVERIFY(l.layout().semFimDeLinha);
+}
+
+void tst_linhaRegistro::bytesDoBancoFormatadosComoOTexto_data()
+{
+    QTest::addColumn<QString>("valor");
+    QTest::newRow("nulo") << QString();
+    QTest::newRow("vazio") << QStringLiteral("");
+    QTest::newRow("um branco") << QStringLiteral(" ");
+    QTest::newRow("tabulação e brancos") << QStringLiteral(" \t ");
+    QTest::newRow("só a vírgula") << QStringLiteral(",");
+    QTest::newRow("brancos e vírgula") << QStringLiteral(" , ");
+    QTest::newRow("decimal") << QStringLiteral("12,50");
+    QTest::newRow("milhar e decimal") << QStringLiteral("1.234,56");
+    QTest::newRow("duas vírgulas") << QStringLiteral("1,2,3");
+    QTest::newRow("com brancos em volta") << QStringLiteral(" 42 ");
+    QTest::newRow("data") << QStringLiteral("31122008");
+    QTest::newRow("data curta") << QStringLiteral("3112");
+    QTest::newRow("data de cinco") << QStringLiteral("31120");
+    QTest::newRow("texto") << QStringLiteral("Produto de teste");
+    QTest::newRow("longo") << QString(300, u'9');
+}
+
+void tst_linhaRegistro::bytesDoBancoFormatadosComoOTexto()
+{
+    QFETCH(QString, valor);
+    const QByteArray utf8 = valor.toUtf8();
+    const QByteArrayView bytes = valor.isNull() ? QByteArrayView() : QByteArrayView(utf8);
+    for (const TipoCampo tipo : {TipoCampo::N, TipoCampo::X, TipoCampo::R, TipoCampo::D2, TipoCampo::D5,
+                                 TipoCampo::D7, TipoCampo::DT, TipoCampo::K, TipoCampo::A}) {
+        for (const int tamanho : {1, 3, 8, 14}) {
+            const CampoLayout c = campo(tipo, tamanho);
+            QByteArray saida;
+            QVERIFY(LinhaRegistro::formataAscii(c, bytes, saida));
+            QCOMPARE(QString::fromLatin1(saida), LinhaRegistro::formata(c, valor));
+        }
+    }
+}
+
+void tst_linhaRegistro::textoForaDoAsciiFicaComOTexto()
+{
+    QByteArray saida;
+    QVERIFY(!LinhaRegistro::formataAscii(campo(TipoCampo::X, 10), QByteArrayView("Ma\xc3\xa7\xc3\xa3"), saida));
+    // Through the text the record still takes it, a character per position.
+    LinhaRegistro l(LayoutRegistro::de(TipoDeclaracao::Mensal, QStringLiteral("41")));
+    l.poe(QStringLiteral("NM_INT_PRODUTO"), QStringLiteral("Maçã"));
+    QCOMPARE(l.texto().mid(28, 45), QStringLiteral("Maçã") + QString(41, u' '));
+    QCOMPARE(l.bytes().mid(28, 4), QByteArray("Ma\xe7\xe3"));
+}
+
+void tst_linhaRegistro::campoDeOutraLarguraDesfazALinhaEmCampos()
+{
+    LinhaRegistro l(LayoutRegistro::de(TipoDeclaracao::Mensal, QStringLiteral("41")));
+    QCOMPARE(l.bytes().size(), 184);
+    l.poe(QStringLiteral("CD_NCM_PRODUTO"), QStringLiteral("123456789"));
+    // Nine digits in eight positions: the record is no longer one line of its width.
+    QVERIFY(l.bytes().isNull());
+    QCOMPARE(l.texto().left(14), QStringLiteral("41000123456789"));
+    // The next field, at column 14, starts a new line at its column.
+    QCOMPARE(l.texto().mid(14, 15), QStringLiteral("\r\n") + QString(13, u' '));
+    l.limpa();
+    QCOMPARE(l.bytes().size(), 184);
 }
 
 QTEST_GUILESS_MAIN(tst_linhaRegistro)
