@@ -4,12 +4,9 @@
 #include "core/file/writing/SaidaVrt.h"
 #include "core/file/layout/SlotsValores.h"
 #include "core/rules/Formatadores.h"
-#include "core/store/modBancoDados.h"
-
-#include <QSqlQuery>
+#include "core/store/ComandoSqlite.h"
 
 using namespace Funcoes;
-using namespace modBancoDados;
 
 namespace {
 
@@ -37,114 +34,95 @@ TipoDeclaracao CabecalhoVrt::tipo() const
 
 bool CabecalhoVrt::carrega(const QString& id)
 {
-    QSqlQuery rs(ConexaoBanco());
-    AbreConsulta(rs,
-                 QStringLiteral("SELECT ID_VRT_MICRO, CD_TIPO_VRT, NR_CNPJ_INTERNADOR, NR_VRT, NR_PROC_ADM_FISCAL, "
-                                "IND_MANDADO_JUDIC, NR_BANCO_ARREC, NR_AG_BCO_ARREC, NR_CC_AG_BCO_ARREC, "
-                                "NR_INSCRICAO_EST FROM VRT WHERE ID_VRT_MICRO = ?"),
-                 {id});
-    if (!rs.next())
+    // The declaration with its month, its individual row and the first of its exit invoices, in one query; the
+    // key of each joined row tells whether there is one.
+    enum { Id, Tipo, Cnpj, NrVrt, Processo, Mandado, Banco, Agencia, Conta, Inscricao, TemMensal, Mes,
+           TemIndividual, SaidaAlc, Nfs, Serie, Numero, Emissao, Saida, Cfop, TipoDestinatario, Destinatario, Uf };
+    ComandoSqlite rs(QStringLiteral(
+        "SELECT v.ID_VRT_MICRO, v.CD_TIPO_VRT, v.NR_CNPJ_INTERNADOR, v.NR_VRT, v.NR_PROC_ADM_FISCAL, "
+        "v.IND_MANDADO_JUDIC, v.NR_BANCO_ARREC, v.NR_AG_BCO_ARREC, v.NR_CC_AG_BCO_ARREC, v.NR_INSCRICAO_EST, "
+        "m.ID_VRT_MICRO, m.DT_REFERENCIA_VRT, d.ID_VRT_MICRO, d.IN_SAIDA_ALC_AO, "
+        "n.ID_NFS, n.NR_SERIE_NF_SAIDA, n.NR_NF_SAIDA, n.DT_EMISS_NF_SAIDA, n.DT_SAIDA_NF_SAIDA, n.CD_OP_FISCAL, "
+        "n.CD_TIPO_DESTINAT, n.NR_DESTINAT, n.CD_UF_DESTINO FROM VRT v "
+        "LEFT JOIN VRT_MENSAL m ON m.ID_VRT_MICRO = v.ID_VRT_MICRO "
+        "LEFT JOIN VRT_INDIVIDUAL d ON d.ID_VRT_MICRO = v.ID_VRT_MICRO "
+        "LEFT JOIN NOTA_FISCAL_SAIDA n ON n.ID_NFS = "
+        "(SELECT MIN(x.ID_NFS) FROM NOTA_FISCAL_SAIDA x WHERE x.ID_VRT_MICRO = v.ID_VRT_MICRO) "
+        "WHERE v.ID_VRT_MICRO = ?"));
+    rs.abre({id});
+    if (!rs.proxima())
         return false;
-    idVrtMicro = rs.value(0).toString();
-    cdTipoVrt = rs.value(1).toString();
-    if (!rs.value(2).isNull())
-        cnpj = rs.value(2).toString();
+    idVrtMicro = rs.texto(Id);
+    cdTipoVrt = rs.texto(Tipo);
+    if (!rs.valor(Cnpj).isNull())
+        cnpj = rs.texto(Cnpj);
     // One blank is the column's "no number"; anything else, an empty text included, is zero-filled.
-    const QString vrt = rs.value(3).toString();
-    nrVrt = (!rs.value(3).isNull() && vrt == Branco) ? QStringLiteral("0000000000") : ZeroEsquerda(vrt, 10);
-    const QString proc = rs.value(4).toString();
-    nrProcAdmFiscal =
-        (!rs.value(4).isNull() && proc == Branco) ? QStringLiteral("00000000000000000") : ZeroEsquerda(proc, 17);
-    indMandadoJudic = rs.value(5).toString();
-    banco = rs.value(6).toString();
-    agencia = rs.value(7).toString();
-    conta = rs.value(8).toString();
-    const QVariant inscricao = rs.value(9);
-    rs.finish();
+    const QString vrt = rs.texto(NrVrt);
+    nrVrt = (!rs.valor(NrVrt).isNull() && vrt == Branco) ? QStringLiteral("0000000000") : ZeroEsquerda(vrt, 10);
+    const QString proc = rs.texto(Processo);
+    nrProcAdmFiscal = (!rs.valor(Processo).isNull() && proc == Branco) ? QStringLiteral("00000000000000000")
+                                                                       : ZeroEsquerda(proc, 17);
+    indMandadoJudic = rs.texto(Mandado);
+    banco = rs.texto(Banco);
+    agencia = rs.texto(Agencia);
+    conta = rs.texto(Conta);
 
-    carregaValoresMandado();
-    carregaValoresRetif();
     if (tipo() == TipoDeclaracao::Mensal) {
-        carregaMensal();
+        if (!rs.valor(TemMensal).isNull()) {
+            // Stored as mmyyyy, written as yyyymm.
+            const QString mmaaaa = rs.texto(Mes);
+            referencia = mmaaaa.mid(2, 4) + mmaaaa.mid(0, 2);
+        }
     } else {
-        if (!inscricao.isNull())
-            inscricaoEstadual = inscricao.toString();
-        carregaIndividual();
+        if (!rs.valor(Inscricao).isNull())
+            inscricaoEstadual = rs.texto(Inscricao);
+        if (!rs.valor(TemIndividual).isNull())
+            saidaAlcAo = BrancoDireita(rs.texto(SaidaAlc), 1);
+        if (!rs.valor(Nfs).isNull()) {
+            idNfs = rs.valor(Nfs);
+            serieNf = rs.texto(Serie);
+            numeroNf = rs.texto(Numero);
+            dtEmissao = rs.texto(Emissao);
+            dtSaida = rs.texto(Saida);
+            cfopNulo = rs.valor(Cfop).isNull();
+            cfop = rs.texto(Cfop);
+            tipoDestinatario = rs.texto(TipoDestinatario);
+            nrDestinatario = rs.texto(Destinatario);
+            uf = rs.texto(Uf).left(2);
+        }
+        destino = codigoDestino(uf, saidaAlcAo);
     }
+    rs.encerra();
+    carregaValores();
     return true;
 }
 
-void CabecalhoVrt::carregaValoresMandado()
+void CabecalhoVrt::carregaValores()
 {
     indicadoresMandado = QVector<QString>(SlotsValores::QuantidadeMandado, QStringLiteral("N"));
     valoresMandado = QVector<QString>(SlotsValores::QuantidadeMandado, QString(SlotsValores::TamanhoValor, u'0'));
-    QSqlQuery rs(ConexaoBanco());
-    AbreConsulta(rs,
-                 QStringLiteral("SELECT CD_MOD_MANDADO, CD_TIPO_DIVER_MANDADO, VL_TOTAL_DIVER_MANDADO "
-                                "FROM VALORES_DIVER_MANDADO WHERE ID_VRT_MICRO = ? ORDER BY rowid"),
-                 {idVrtMicro});
-    while (rs.next()) {
-        // A pair without a slot is left out; a second row for one slot replaces the first.
-        const int k = SlotsValores::slotMandado(codigo(rs.value(0)), codigo(rs.value(1)));
-        if (k == 0)
-            continue;
-        indicadoresMandado[k - 1] = QStringLiteral("S");
-        valoresMandado[k - 1] = valorDoSlot(rs.value(2));
-    }
-}
-
-void CabecalhoVrt::carregaValoresRetif()
-{
     valoresRetif = QVector<QString>(SlotsValores::QuantidadeRetif, QString(SlotsValores::TamanhoValor, u'0'));
-    QSqlQuery rs(ConexaoBanco());
-    AbreConsulta(rs,
-                 QStringLiteral("SELECT CD_MOD_RETIF, CD_TIPO_DIVER_RETIF, VL_TOTAL_DIVER_RETIF "
-                                "FROM VALORES_DIVER_RETIF WHERE ID_VRT_MICRO = ? ORDER BY rowid"),
-                 {idVrtMicro});
-    while (rs.next()) {
-        const int k = SlotsValores::slotRetif(codigo(rs.value(0)), codigo(rs.value(1)));
-        if (k != 0)
-            valoresRetif[k - 1] = valorDoSlot(rs.value(2));
+    // The court order's values, then the rectification's, each in the order its rows were made.
+    ComandoSqlite rs(QStringLiteral(
+        "SELECT 1 AS QUAL, rowid AS ORDEM, CD_MOD_MANDADO, CD_TIPO_DIVER_MANDADO, VL_TOTAL_DIVER_MANDADO "
+        "FROM VALORES_DIVER_MANDADO WHERE ID_VRT_MICRO = ?1 UNION ALL "
+        "SELECT 2, rowid, CD_MOD_RETIF, CD_TIPO_DIVER_RETIF, VL_TOTAL_DIVER_RETIF "
+        "FROM VALORES_DIVER_RETIF WHERE ID_VRT_MICRO = ?1 ORDER BY QUAL, ORDEM"));
+    rs.abre({idVrtMicro});
+    while (rs.proxima()) {
+        // A pair without a slot is left out; a second row for one slot replaces the first.
+        if (rs.inteiro(0) == 1) {
+            const int k = SlotsValores::slotMandado(codigo(rs.valor(2)), codigo(rs.valor(3)));
+            if (k == 0)
+                continue;
+            indicadoresMandado[k - 1] = QStringLiteral("S");
+            valoresMandado[k - 1] = valorDoSlot(rs.valor(4));
+        } else {
+            const int k = SlotsValores::slotRetif(codigo(rs.valor(2)), codigo(rs.valor(3)));
+            if (k != 0)
+                valoresRetif[k - 1] = valorDoSlot(rs.valor(4));
+        }
     }
-}
-
-void CabecalhoVrt::carregaMensal()
-{
-    const QVariant mes = ValorUnico(
-        QStringLiteral("SELECT DT_REFERENCIA_VRT FROM VRT_MENSAL WHERE ID_VRT_MICRO = ?"), {idVrtMicro});
-    if (mes.isValid()) {
-        // Stored as mmyyyy, written as yyyymm.
-        const QString mmaaaa = mes.toString();
-        referencia = mmaaaa.mid(2, 4) + mmaaaa.mid(0, 2);
-    }
-}
-
-void CabecalhoVrt::carregaIndividual()
-{
-    const QVariant alc = ValorUnico(
-        QStringLiteral("SELECT IN_SAIDA_ALC_AO FROM VRT_INDIVIDUAL WHERE ID_VRT_MICRO = ?"), {idVrtMicro});
-    if (alc.isValid())
-        saidaAlcAo = BrancoDireita(alc.toString(), 1);
-
-    QSqlQuery rs(ConexaoBanco());
-    AbreConsulta(rs,
-                 QStringLiteral("SELECT ID_NFS, NR_SERIE_NF_SAIDA, NR_NF_SAIDA, DT_EMISS_NF_SAIDA, DT_SAIDA_NF_SAIDA, "
-                                "CD_OP_FISCAL, CD_TIPO_DESTINAT, NR_DESTINAT, CD_UF_DESTINO "
-                                "FROM NOTA_FISCAL_SAIDA WHERE ID_VRT_MICRO = ? ORDER BY ID_NFS"),
-                 {idVrtMicro});
-    if (rs.next()) {
-        idNfs = rs.value(0);
-        serieNf = rs.value(1).toString();
-        numeroNf = rs.value(2).toString();
-        dtEmissao = rs.value(3).toString();
-        dtSaida = rs.value(4).toString();
-        cfopNulo = rs.value(5).isNull();
-        cfop = rs.value(5).toString();
-        tipoDestinatario = rs.value(6).toString();
-        nrDestinatario = rs.value(7).toString();
-        uf = rs.value(8).toString().left(2);
-    }
-    destino = codigoDestino(uf, saidaAlcAo);
 }
 
 QString CabecalhoVrt::codigoDestino(const QString& uf, const QString& saidaAlcAo)

@@ -52,8 +52,6 @@ public:
     static QString codigoDestino(const QString& uf, const QString& saidaAlcAo);
 
 private:
-    void carregaValoresMandado();
-    void carregaValoresRetif();
-    void carregaMensal();
-    void carregaIndividual();
+    // The values of the court order (record 02) and of the rectification (record 03) by their slots.
+    void carregaValores();
 };
