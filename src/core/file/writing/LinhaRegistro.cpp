@@ -202,9 +202,61 @@ void LinhaRegistro::coloca(int indice, const QString& texto)
     m_valores[indice] = texto;
 }
 
+namespace {
+
+// The commonest case of formataAscii, written straight into the record: an N, X or D field whose ASCII value
+// fits its width. False, having written nothing, for anything else.
+bool poeNoLugar(const CampoLayout& c, QByteArrayView v, char* destino)
+{
+    const qsizetype w = c.tamanho;
+    qsizetype n = 0;       // the characters written (without the commas of a decimal)
+    bool branco = true;
+    for (const char ch : v) {
+        if (static_cast<unsigned char>(ch) >= 0x80)
+            return false;
+        if (ch != ',' || c.tipo == TipoCampo::N || c.tipo == TipoCampo::X) {
+            ++n;
+            branco = branco && espaco(ch);
+        }
+    }
+    switch (c.tipo) {
+    case TipoCampo::X:
+        if (v.size() > w)
+            return false;
+        if (!v.isEmpty())
+            std::memcpy(destino, v.data(), size_t(v.size()));
+        std::memset(destino + v.size(), ' ', size_t(w - v.size()));
+        return true;
+    case TipoCampo::N:
+    case TipoCampo::D2:
+    case TipoCampo::D5:
+    case TipoCampo::D7:
+        // A blank value, before or after its commas go, is zero: the field is all zeros.
+        if (branco || emBranco(v)) {
+            std::memset(destino, '0', size_t(w));
+            return true;
+        }
+        if (n > w)
+            return false;
+        std::memset(destino, '0', size_t(w - n));
+        destino += w - n;
+        for (const char ch : v) {
+            if (ch != ',' || c.tipo == TipoCampo::N)
+                *destino++ = ch;
+        }
+        return true;
+    default:
+        return false;
+    }
+}
+
+}  // namespace
+
 void LinhaRegistro::poeUtf8(int indice, QByteArrayView valor)
 {
     const CampoLayout& c = m_layout->campos.at(indice);
+    if (m_exata && poeNoLugar(c, valor, m_linha.data() + (c.posicao - 1)))
+        return;
     if (m_exata && formataAscii(c, valor, m_formatado) && m_formatado.size() == c.tamanho) {
         std::memcpy(m_linha.data() + (c.posicao - 1), m_formatado.constData(), size_t(c.tamanho));
         return;

@@ -35,6 +35,8 @@ public:
     void poeComoEsta(int indice, const QString& texto);
     // Every field of `mapa` from its column of the statement's current row, as poe() of the column's text.
     void preenche(const ComandoSqlite& linha, const MapaColunas& mapa);
+    // As poe() of the text whose UTF-8 is `valor` (a null view is a null text).
+    void poeUtf8(int indice, QByteArrayView valor);
     // Every field back to its empty form.
     void limpa();
     QString valor(const QString& nome) const;
@@ -60,7 +62,6 @@ public:
     static bool formataAscii(const CampoLayout& campo, QByteArrayView valor, QByteArray& saida);
 
 private:
-    void poeUtf8(int indice, QByteArrayView valor);
     void coloca(int indice, const QString& texto);
     void separaCampos();
 

@@ -143,6 +143,17 @@ void tst_linhaRegistro::bytesDoBancoFormatadosComoOTexto()
             QCOMPARE(QString::fromLatin1(saida), LinhaRegistro::formata(c, valor));
         }
     }
+    // Put into a record, field by field of every kind a column fills, as the text would be.
+    const LayoutRegistro& layout = LayoutRegistro::de(TipoDeclaracao::Mensal, QStringLiteral("12"));
+    for (int i = 0; i < layout.campos.size(); ++i) {
+        if (layout.campos.at(i).tipo == TipoCampo::K)
+            continue;
+        LinhaRegistro deBytes(layout);
+        LinhaRegistro deTexto(layout);
+        deBytes.poeUtf8(i, bytes);
+        deTexto.poe(i, valor);
+        QCOMPARE(deBytes.texto(), deTexto.texto());
+    }
 }
 
 void tst_linhaRegistro::textoForaDoAsciiFicaComOTexto()
