@@ -51,6 +51,23 @@ QString colunas14(const NomesProduto& nomes)
            + QStringLiteral(", x.IND_SUSP_PIS_COFINS");
 }
 
+RegistroComposto::RegistroComposto(const LayoutRegistro& layout, const ComandoSqlite& pai,
+                                   const ComandoSqlite* filho)
+    : m_linha(layout), m_doPai(layout, pai)
+{
+    if (filho)
+        m_doFilho = MapaColunas(layout, *filho);
+}
+
+LinhaRegistro& RegistroComposto::compoe(const ComandoSqlite& pai, const ComandoSqlite* filho)
+{
+    m_linha.limpa();
+    m_linha.preenche(pai, m_doPai);
+    if (filho)
+        m_linha.preenche(*filho, m_doFilho);
+    return m_linha;
+}
+
 RegistrosFilhos::RegistrosFilhos(const LayoutRegistro& layout, const QString& sql, const QVariantList& valores,
                                  AoCompor aoCompor)
     : m_cursor(sql, valores), m_linha(layout), m_mapa(layout, m_cursor.linha()), m_aoCompor(std::move(aoCompor))

@@ -45,6 +45,20 @@ struct NomesProduto {
 QString colunas12(const NomesProduto& nomes);
 QString colunas14(const NomesProduto& nomes);
 
+// A record filled from a parent's row (an item) and, where it has one, a child's row (a destination, an
+// input), which wins where both name a field.
+class RegistroComposto {
+public:
+    RegistroComposto(const LayoutRegistro& layout, const ComandoSqlite& pai, const ComandoSqlite* filho = nullptr);
+    // The record composed from the current rows, to be finished by the writer and written.
+    LinhaRegistro& compoe(const ComandoSqlite& pai, const ComandoSqlite* filho = nullptr);
+
+private:
+    LinhaRegistro m_linha;
+    MapaColunas m_doPai;
+    MapaColunas m_doFilho;
+};
+
 // The records of a child table: one per row under a parent, every field from its column; `aoCompor`, when
 // given, finishes each record from the row before it is written.
 class RegistrosFilhos {

@@ -15,6 +15,8 @@ namespace ModTrataVrtIndividual {
 
 namespace {
 
+using EscritaRegistro::RegistroComposto;
+
 using EscritaRegistro::RegistrosFilhos;
 using EscritaRegistro::valoresImportacao;
 
@@ -112,27 +114,6 @@ QString comImportacao(const QString& tabela, const QString& tabelaImportacao)
 // VL_TOT_PROD_INT of the DI query, under a name of no field: the writer decides whether it is written.
 constexpr int DiTotal = 14;
 
-// A record filled from the item's row and, where it has one, a child's row, which wins where both name a field.
-struct RegistroItem {
-    RegistroItem(int tipo, const ComandoSqlite& item, const ComandoSqlite* filho = nullptr)
-        : linha(layout(tipo)), doItem(layout(tipo), item)
-    {
-        if (filho)
-            doFilho = MapaColunas(layout(tipo), *filho);
-    }
-    LinhaRegistro& compoe(const ComandoSqlite& item, const ComandoSqlite* filho = nullptr)
-    {
-        linha.limpa();
-        linha.preenche(item, doItem);
-        if (filho)
-            linha.preenche(*filho, doFilho);
-        return linha;
-    }
-    LinhaRegistro linha;
-    MapaColunas doItem;
-    MapaColunas doFilho;
-};
-
 class EscritaIndividual {
 public:
     EscritaIndividual(const CabecalhoVrt& cabecalho, GravacaoVrt& run, SaidaVrt& saida);
@@ -148,17 +129,17 @@ private:
     SaidaVrt& m_saida;
     const QVariantList m_nfs;
     ComandoSqlite m_item;
-    RegistroItem m_r11, m_r21, m_r31, m_r41;
+    RegistroComposto m_r11, m_r21, m_r31, m_r41;
     RegistrosFilhos m_nfa, m_di, m_dsi;
     CursorFilhos m_insumos;
-    RegistroItem m_r32, m_r33;
+    RegistroComposto m_r32, m_r33;
     RegistrosFilhos m_nfaIns, m_diIns, m_dsiIns;
     QHash<QString, QString> m_totalInsumo;  // INSUMO_VRT_IND by input
 };
 
 EscritaIndividual::EscritaIndividual(const CabecalhoVrt& cabecalho, GravacaoVrt& run, SaidaVrt& saida)
-    : m_cab(cabecalho), m_saida(saida), m_nfs{cabecalho.idNfs}, m_item(sqlItem()), m_r11(11, m_item),
-      m_r21(21, m_item), m_r31(31, m_item), m_r41(41, m_item),
+    : m_cab(cabecalho), m_saida(saida), m_nfs{cabecalho.idNfs}, m_item(sqlItem()), m_r11(layout(11), m_item),
+      m_r21(layout(21), m_item), m_r31(layout(31), m_item), m_r41(layout(41), m_item),
       m_nfa(layout(12),
             sqlDoProduto(EscritaRegistro::colunas12(nomesProduto()), QStringLiteral("ITEM_NFA_PE_IND x"),
                          QStringLiteral("ID_ITEM_NFA")),
@@ -193,7 +174,7 @@ EscritaIndividual::EscritaIndividual(const CabecalhoVrt& cabecalho, GravacaoVrt&
                                "LEFT JOIN JUST_DIF_ALIQ_INS_VRT_IND j ON j.ID_INSUMO = s.ID_INSUMO")
                     + deSemPPB(),
                 m_nfs),
-      m_r32(32, m_item, &m_insumos.linha()), m_r33(33, m_item, &m_insumos.linha()),
+      m_r32(layout(32), m_item, &m_insumos.linha()), m_r33(layout(33), m_item, &m_insumos.linha()),
       m_nfaIns(layout(34),
                sqlDoInsumo(QStringLiteral("x.NR_CNPJ_FORNECEDOR, x.NR_SERIE_NF_AQUIS, x.NR_NF_AQUIS, "
                                           "x.NR_ITEM_NF_AQUIS, x.DT_EMISS_NF_AQUIS, x.CD_CFOP_NF_AQUIS, "

@@ -18,6 +18,8 @@ namespace modTrataVrtMensal {
 
 namespace {
 
+using EscritaRegistro::RegistroComposto;
+
 const LayoutRegistro& layout(int tipo)
 {
     return LayoutRegistro::de(TipoDeclaracao::Mensal, tipo);
@@ -32,7 +34,7 @@ const EscritaRegistro::NomesProduto& nomesProduto()
 }
 
 // Columns of the item query that the writer reads itself; the others fill the records by their names.
-enum { ItId, ItModalidade, ItTipoCoef, ItCodigo };
+enum { ItId, ItModalidade, ItTipoCoef };
 // Columns of the destination query (0 is the item).
 enum { DeItem, DeId, DeCodigo, DeQuantidade };
 
@@ -40,27 +42,6 @@ enum { DeItem, DeId, DeCodigo, DeQuantidade };
 // write their records destination by destination.
 struct Destino {
     QString codigo, quantidade;
-};
-
-// A record filled from the item's row and, where it has one, a destination's row.
-struct RegistroItem {
-    RegistroItem(int tipo, const ComandoSqlite& item, const ComandoSqlite* destino = nullptr)
-        : linha(layout(tipo)), doItem(layout(tipo), item)
-    {
-        if (destino)
-            doDestino = MapaColunas(layout(tipo), *destino);
-    }
-    LinhaRegistro& compoe(const ComandoSqlite& item, const ComandoSqlite* destino = nullptr)
-    {
-        linha.limpa();
-        linha.preenche(item, doItem);
-        if (destino)
-            linha.preenche(*destino, doDestino);
-        return linha;
-    }
-    LinhaRegistro linha;
-    MapaColunas doItem;
-    MapaColunas doDestino;
 };
 
 QString chaveDestinoInsumo(const QString& destino, const QString& insumo)
@@ -82,15 +63,14 @@ private:
     void preparaInsumos();
 
     const CabecalhoVrt& m_cab;
-    GravacaoVrt& m_run;
     SaidaVrt& m_saida;
     ComandoSqlite m_item;
     CursorFilhos m_destinos;
-    RegistroItem m_r11, m_r21, m_r31, m_r41;
+    RegistroComposto m_r11, m_r21, m_r31, m_r41;
     EscritaRegistro::RegistrosFilhos m_nfa, m_di, m_dsi;
     // Prepared with the first item without basic process.
     std::unique_ptr<CursorFilhos> m_insumos;
-    std::unique_ptr<RegistroItem> m_r32, m_r33;
+    std::unique_ptr<RegistroComposto> m_r32, m_r33;
     std::unique_ptr<DocumentosInsumoMensal> m_docsInsumo;
     QHash<QString, QString> m_totalInsumo;        // INSUMO_VRT by input
     // TOT_INSUMO_CONSOLIDADO by destination and input; a Null destination or input has no row to be found.
@@ -150,15 +130,16 @@ QString sqlDi()
                                   QStringLiteral("VL_TOT_PROD_OBSOLE"), QStringLiteral("VL_TOT_PROD_OBSOLE"))
             + QStringLiteral(", x.IND_SUSP_PIS_COFINS"),
         QStringLiteral("ITEM_DI_PE_MEN x LEFT JOIN ITEM_IMPORT_288_PE_MEN m ON m.ID_ITEM_IMP_288 = "
-                       "(SELECT MIN(y.ID_ITEM_IMP_288) FROM ITEM_IMPORT_288_PE_MEN y WHERE y.ID_ITEM_DI = x.ID_ITEM_DI)"),
+                       "(SELECT MIN(y.ID_ITEM_IMP_288) FROM ITEM_IMPORT_288_PE_MEN y "
+                       "WHERE y.ID_ITEM_DI = x.ID_ITEM_DI)"),
         QStringLiteral("ID_ITEM_DI"));
 }
 
 EscritaMensal::EscritaMensal(const CabecalhoVrt& cabecalho, GravacaoVrt& run, SaidaVrt& saida)
-    : m_cab(cabecalho), m_run(run), m_saida(saida), m_item(sqlItem()),
+    : m_cab(cabecalho), m_saida(saida), m_item(sqlItem()),
       m_destinos(sqlDestinos(), QVariantList{cabecalho.idVrtMicro}),
-      m_r11(11, m_item, &m_destinos.linha()), m_r21(21, m_item, &m_destinos.linha()), m_r31(31, m_item),
-      m_r41(41, m_item),
+      m_r11(layout(11), m_item, &m_destinos.linha()), m_r21(layout(21), m_item, &m_destinos.linha()),
+      m_r31(layout(31), m_item), m_r41(layout(41), m_item),
       m_nfa(layout(12),
             sqlDocumentoPE(EscritaRegistro::colunas12(nomesProduto()), QStringLiteral("ITEM_NFA_PE_MEN x"),
                            QStringLiteral("ID_ITEM_NFA")),
@@ -238,8 +219,8 @@ void EscritaMensal::preparaInsumos()
                        "WHERE i.ID_VRT_MICRO = ? AND i.IND_MOD_INTERNACAO = '3' "
                        "ORDER BY i.ID_ITEM_VRT, s.ID_INSUMO_ITEM"),
         QVariantList{id});
-    m_r32 = std::make_unique<RegistroItem>(32, m_item, &m_insumos->linha());
-    m_r33 = std::make_unique<RegistroItem>(33, m_insumos->linha());
+    m_r32 = std::make_unique<RegistroComposto>(layout(32), m_item, &m_insumos->linha());
+    m_r33 = std::make_unique<RegistroComposto>(layout(33), m_insumos->linha());
     m_docsInsumo = std::make_unique<DocumentosInsumoMensal>(id);
 
     ComandoSqlite rs(QStringLiteral("SELECT CD_INT_INSUMO, QT_TOT_INS_EST FROM INSUMO_VRT WHERE ID_VRT_MICRO = ?"));
