@@ -538,7 +538,8 @@ QStringList fase(const QStringList& argumentos)
 
 int escalas(const QString& lista)
 {
-    std::printf("%10s %-10s %9s %9s %9s %11s\n", "registros", "fase", "s", "s CPU", "MB pico", "us/registro");
+    std::printf("%10s %-10s %9s %9s %9s %11s %15s\n", "registros", "fase", "s", "s CPU", "MB pico", "us/registro",
+                "us CPU/registro");
     for (const QString& fator : lista.split(QLatin1Char(','))) {
         QTemporaryDir dir;
         const QStringList g = fase({QStringLiteral("--grava"), fator, dir.path()});
@@ -550,8 +551,9 @@ int escalas(const QString& lista)
         const auto linhaFase = [&](const char* nome, const QStringList& f) {
             if (f.size() < 3)
                 return;
-            std::printf("%10.0f %-10s %9.3f %9.3f %9.1f %11.2f\n", registros, nome, f.at(0).toDouble(),
-                        f.at(1).toDouble(), f.at(2).toDouble() / 1024.0, f.at(0).toDouble() * 1e6 / registros);
+            std::printf("%10.0f %-10s %9.3f %9.3f %9.1f %11.2f %15.2f\n", registros, nome, f.at(0).toDouble(),
+                        f.at(1).toDouble(), f.at(2).toDouble() / 1024.0, f.at(0).toDouble() * 1e6 / registros,
+                        f.at(1).toDouble() * 1e6 / registros);
         };
         linhaFase("gravar", g);
         linhaFase("verificar", v);
