@@ -13,6 +13,10 @@
 // declaration (1 is about 100,000 records; 0.01, 0.1, 10 for a scaling table). The writing and the export are
 // each run three times and the best run of each is printed, as the machine is shared; "--so-gravacao" stops
 // after them (a 1,000,000-record writing figure without the slower reading: `bench_declaracao 10 --so-gravacao`).
+//
+// `bench_declaracao --escalas [0.01,0.1,1,10]`: the scaling table alone, without the floors: for each scale the
+// writing, `vrt-cli verificar` and the reading each run in a process of their own, so that each peak memory is
+// that phase's (the writing's includes building the declaration in its database).
 #include "core/file/writing/GravaVrt.h"
 #include "core/file/reading/LeArquivoVrt.h"
 #include "core/session/MsgBox.h"
@@ -359,7 +363,10 @@ Medida cargaPreparada(const QString& banco, const std::vector<LinhasTabela>& tod
                 else if (v.tipo == SQLITE_FLOAT)
                     sqlite3_bind_double(st, i + 1, v.real);
                 else if (v.tipo == SQLITE_TEXT)
-                    sqlite3_bind_text(st, i + 1, v.bytes.constData(), int(v.bytes.size()), SQLITE_STATIC);
+                    // As the reader binds a text: ended by the NUL QByteArray keeps, so the engine needs no
+                    // copy of it to run the schema's CHECK(length(...)).
+                    sqlite3_bind_text(st, i + 1, v.bytes.constData(),
+                                      v.bytes.contains('\0') ? int(v.bytes.size()) : -1, SQLITE_STATIC);
                 else if (v.tipo == SQLITE_BLOB)
                     sqlite3_bind_blob(st, i + 1, v.bytes.constData(), int(v.bytes.size()), SQLITE_STATIC);
                 else
@@ -414,12 +421,20 @@ double cargaSqlite(const QString& pasta, qint64 linhas)
     return segundos(r);
 }
 
+// Read in pieces, so that counting a file of a million records does not add its size to the peak memory.
 qint64 contaLinhas(const QString& arquivo)
 {
     QFile f(arquivo);
     f.open(QIODevice::ReadOnly);
-    const QByteArray b = f.readAll();
-    return b.count('\n') + (b.endsWith('\n') ? 0 : 1);
+    qint64 linhas = 0;
+    char ultimo = '\n';
+    while (!f.atEnd()) {
+        const QByteArray b = f.read(1 << 20);
+        linhas += b.count('\n');
+        if (!b.isEmpty())
+            ultimo = b.back();
+    }
+    return linhas + (ultimo == '\n' ? 0 : 1);
 }
 
 void linha(const char* oQue, const Medida& m, qint64 registros, const QString& nota)
@@ -437,19 +452,155 @@ QString razoes(const Medida& m, const Medida& piso, const char* nomePiso, const 
         .arg(m.parede / nua.parede, 0, 'f', 2);
 }
 
+void escala(double fator)
+{
+    for (int* n : {&ItensPE, &ItensPPB, &ItensSemPPB, &ItensNacionais})
+        *n = qMax(1, int(*n * fator));
+}
+
+long picoKb(int quem)
+{
+    rusage u{};
+    getrusage(quem, &u);
+    return u.ru_maxrss;
+}
+
+QString copiaEntregue(const QString& pasta, const QString& nome)
+{
+    const QString arquivo = pasta + QLatin1Char('/') + nome;
+    QFile::remove(arquivo);
+    QFile::copy(QStringLiteral(VRT_DELIVERED_DB), arquivo);
+    QFile(arquivo).setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    return arquivo;
+}
+
+void mostraFase(const Medida& m, long kb, qint64 registros = 0, const QString& arquivo = QString())
+{
+    std::printf("FASE %.4f %.4f %ld %lld %s\n", m.parede, m.cpu, kb, static_cast<long long>(registros),
+                qPrintable(arquivo));
+}
+
+// The phases of the scaling table, each run as a process of its own by `escalas`.
+int faseGrava(double fator, const QString& pasta)
+{
+    escala(fator);
+    modVRTPLN::CaminhoAplicacao = pasta;
+    modVRTPLN::CaminhoDados = pasta;
+    ConectaBanco(copiaEntregue(pasta, QStringLiteral("origem.mdb")));
+    monta();
+    Cronometro c;
+    const ResultadoGravacao g = GravaVrt({Id}, pasta, ModoGravacao::Backup);
+    const Medida m = c.para();
+    DesconectaBanco();
+    if (g.arquivos.isEmpty() || g.erroGravacao)
+        return 1;
+    mostraFase(m, picoKb(RUSAGE_SELF), contaLinhas(g.arquivos.first()), g.arquivos.first());
+    return 0;
+}
+
+int faseVerifica(const QString& arquivo)
+{
+    Cronometro c;
+    QProcess verificar;
+    verificar.start(QStringLiteral(VRT_BINARY_DIR "/vrt-cli"), {QStringLiteral("verificar"), arquivo});
+    verificar.waitForFinished(-1);
+    mostraFase(c.para(), picoKb(RUSAGE_CHILDREN));
+    return verificar.exitCode();
+}
+
+int faseLe(const QString& pasta, const QString& arquivo)
+{
+    modVRTPLN::CaminhoAplicacao = pasta;
+    modVRTPLN::CaminhoDados = pasta;
+    ConectaBanco(copiaEntregue(pasta, QStringLiteral("destino.mdb")));
+    ncm();
+    Cronometro c;
+    LeArquivoVrt leitura(pasta, QFileInfo(arquivo).fileName(), ModoLeitura::Restaurar);
+    const bool lida = leitura.executa();
+    const Medida m = c.para();
+    DesconectaBanco();
+    mostraFase(m, picoKb(RUSAGE_SELF));
+    return lida ? 0 : 1;
+}
+
+// The same-schema floor of a reading done by `--le` in `pasta`, alone: for a profiler, which can then compare the
+// instructions of the two (`valgrind --tool=callgrind --toggle-collect=...`) where times on a shared machine vary.
+int fasePiso(const QString& pasta)
+{
+    const QString antes = copiaEntregue(pasta, QStringLiteral("antes.mdb"));
+    ConectaBanco(antes);
+    ncm();
+    const QStringList tabelas = tabelasDaDeclaracao();
+    DesconectaBanco();
+    const std::vector<LinhasTabela> criadas =
+        tiraLinhasCriadas(pasta + QStringLiteral("/destino.mdb"), antes, tabelas);
+    const Medida m = cargaPreparada(antes, criadas);
+    mostraFase(m, picoKb(RUSAGE_SELF));
+    return 0;
+}
+
+// Runs this program with `argumentos` and reads the figures of its FASE line.
+QStringList fase(const QStringList& argumentos)
+{
+    QProcess p;
+    p.start(QCoreApplication::applicationFilePath(), argumentos);
+    p.waitForFinished(-1);
+    for (const QByteArray& l : p.readAllStandardOutput().split('\n')) {
+        if (l.startsWith("FASE ") && p.exitCode() == 0)
+            return QString::fromUtf8(l).split(QLatin1Char(' ')).mid(1);
+    }
+    std::fprintf(stderr, "a fase %s falhou\n", qPrintable(argumentos.join(QLatin1Char(' '))));
+    return {};
+}
+
+int escalas(const QString& lista)
+{
+    std::printf("%10s %-10s %9s %9s %9s %11s %15s\n", "registros", "fase", "s", "s CPU", "MB pico", "us/registro",
+                "us CPU/registro");
+    for (const QString& fator : lista.split(QLatin1Char(','))) {
+        QTemporaryDir dir;
+        const QStringList g = fase({QStringLiteral("--grava"), fator, dir.path()});
+        if (g.size() < 5)
+            return 1;
+        const QStringList v = fase({QStringLiteral("--verifica"), g.at(4)});
+        const QStringList l = fase({QStringLiteral("--le"), dir.path(), g.at(4)});
+        const double registros = g.at(3).toDouble();
+        const auto linhaFase = [&](const char* nome, const QStringList& f) {
+            if (f.size() < 3)
+                return;
+            std::printf("%10.0f %-10s %9.3f %9.3f %9.1f %11.2f %15.2f\n", registros, nome, f.at(0).toDouble(),
+                        f.at(1).toDouble(), f.at(2).toDouble() / 1024.0, f.at(0).toDouble() * 1e6 / registros,
+                        f.at(1).toDouble() * 1e6 / registros);
+        };
+        linhaFase("gravar", g);
+        linhaFase("verificar", v);
+        linhaFase("ler", l);
+        std::fflush(stdout);
+    }
+    return 0;
+}
+
 }  // namespace
 
 int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
-    QStringList argumentos = app.arguments().mid(1);
-    const bool soGravacao = argumentos.removeAll(QStringLiteral("--so-gravacao")) > 0;
-    if (!argumentos.isEmpty()) {
-        const double escala = argumentos.first().toDouble();
-        for (int* n : {&ItensPE, &ItensPPB, &ItensSemPPB, &ItensNacionais})
-            *n = qMax(1, int(*n * escala));
-    }
     InstalaManipuladorMsg([](const QString&, int estilo, const QString&) { return RespostaPadrao(estilo); });
+    const QStringList args = app.arguments();
+    if (args.value(1) == QStringLiteral("--escalas"))
+        return escalas(args.value(2, QStringLiteral("0.01,0.1,1,10")));
+    if (args.value(1) == QStringLiteral("--grava"))
+        return faseGrava(args.value(2).toDouble(), args.value(3));
+    if (args.value(1) == QStringLiteral("--verifica"))
+        return faseVerifica(args.value(2));
+    if (args.value(1) == QStringLiteral("--le"))
+        return faseLe(args.value(2), args.value(3));
+    if (args.value(1) == QStringLiteral("--piso"))
+        return fasePiso(args.value(2));
+    QStringList argumentos = args.mid(1);
+    const bool soGravacao = argumentos.removeAll(QStringLiteral("--so-gravacao")) > 0;
+    if (!argumentos.isEmpty())
+        escala(argumentos.first().toDouble());
     QTemporaryDir dir;
     dir.setAutoRemove(qEnvironmentVariableIsEmpty("VRT_BENCH_GUARDA"));  // kept for a look at the files
     const QString pasta = dir.path();

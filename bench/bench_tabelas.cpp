@@ -2,6 +2,9 @@
 //   - a NCM file of 15,000 lines into an empty NCM_ITEM, and again over itself (every line an update);
 //   - a product file of 50,000 lines into an empty PRODUTO, and again over itself;
 //   - the chooser's list query over 5,000 declarations.
+// Beside each load into an empty table, the floor: the sqlite3 shell's `.import` of the same rows (taken from the
+// table the import filled, as CSV) into the same table of another copy of the database, emptied alike. Skipped,
+// with a line that says so, when the shell is not installed.
 // Prints the figures; never fails on time.
 #include "core/lookups/ListaDeclaracoes.h"
 #include "core/refdata/modImportacao.h"
@@ -12,6 +15,8 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QStringEncoder>
 #include <QTemporaryDir>
 #include <cstdio>
@@ -44,10 +49,52 @@ qint64 importa(const QString& pasta, const QString& nome)
     return relogio.elapsed();
 }
 
-void mostra(const char* o_que, int linhas, qint64 ms)
+void mostra(const char* o_que, int linhas, qint64 ms, const QString& nota = QString())
 {
-    std::printf("%-48s %6d linhas  %6lld ms  %9.0f linhas/s\n", o_que, linhas, ms,
-                ms > 0 ? linhas * 1000.0 / ms : 0.0);
+    std::printf("%-48s %6d linhas  %6lld ms  %9.0f linhas/s  %s\n", o_que, linhas, ms,
+                ms > 0 ? linhas * 1000.0 / ms : 0.0, qPrintable(nota));
+}
+
+bool temShell()
+{
+    return !QStandardPaths::findExecutable(QStringLiteral("sqlite3")).isEmpty();
+}
+
+bool shell(const QStringList& argumentos)
+{
+    QProcess p;
+    p.start(QStringLiteral("sqlite3"), argumentos);
+    if (!p.waitForFinished(600000) || p.exitCode() != 0 || !p.readAllStandardError().isEmpty()) {
+        std::fprintf(stderr, "sqlite3 falhou: %s\n", qPrintable(argumentos.join(QLatin1Char(' '))));
+        return false;
+    }
+    return true;
+}
+
+// The floor of a load into an empty table: the rows of `tabela` in `banco` written out as CSV, then imported by the
+// shell into the same empty table of `vazio` (the delivered database with that table emptied); its milliseconds,
+// process start included, or -1.
+qint64 importacaoDoShell(const QString& banco, const QString& vazio, const QString& tabela, const QString& pasta)
+{
+    const QString csv = pasta + QLatin1Char('/') + tabela + QStringLiteral(".csv");
+    const QString copia = pasta + QLatin1Char('/') + tabela + QStringLiteral("-shell.mdb");
+    QFile::remove(copia);
+    if (!QFile::copy(vazio, copia) ||
+        !shell({banco, QStringLiteral(".mode csv"), QStringLiteral(".output ") + csv,
+                QStringLiteral("SELECT * FROM ") + tabela + QLatin1Char(';')}))
+        return -1;
+    QElapsedTimer relogio;
+    relogio.start();
+    if (!shell({copia, QStringLiteral(".mode csv"), QStringLiteral(".import ") + csv + QLatin1Char(' ') + tabela}))
+        return -1;
+    return relogio.elapsed();
+}
+
+QString razao(qint64 ms, qint64 piso)
+{
+    if (piso < 0)
+        return QStringLiteral("[sqlite3 ausente: sem comparação]");
+    return QStringLiteral("shell .import %1 ms: %2x").arg(piso).arg(piso > 0 ? double(ms) / piso : 0.0, 0, 'f', 2);
 }
 
 }  // namespace
@@ -72,6 +119,15 @@ int main(int argc, char** argv)
     modBancoDados::ExecutaSql(QStringLiteral("DELETE FROM NCM_ITEM"));
     modBancoDados::ExecutaSql(QStringLiteral("DELETE FROM PRODUTO"));
     modVRTPLN::ArquivoImportaTabela = QStringLiteral("SIM");
+    // The database as the imports find it, for the shell's loads.
+    const QString vazio = pasta.filePath(QStringLiteral("vazio.mdb"));
+    QFile::copy(banco, vazio);
+    const bool comShell = temShell();
+    if (!comShell)
+        std::printf("sqlite3 não instalado: as cargas do shell ficam de fora\n");
+    const auto piso = [&](const char* tabela) {
+        return comShell ? importacaoDoShell(banco, vazio, QString::fromLatin1(tabela), pasta.path()) : -1;
+    };
 
     const int nNcm = 15000;
     QStringList ncm{QStringLiteral("00VRT/PLN0 NCM")};
@@ -90,9 +146,11 @@ int main(int argc, char** argv)
     grava(pasta.filePath(QStringLiteral("produtos.txt")), produtos);
 
     std::printf("Importação de tabelas (uma transação por arquivo)\n");
-    mostra("NCM, tabela vazia", nNcm, importa(pasta.path(), QStringLiteral("ncm.txt")));
+    const qint64 ncmVazia = importa(pasta.path(), QStringLiteral("ncm.txt"));
+    mostra("NCM, tabela vazia", nNcm, ncmVazia, razao(ncmVazia, piso("NCM_ITEM")));
     mostra("NCM, de novo (toda linha altera)", nNcm, importa(pasta.path(), QStringLiteral("ncm.txt")));
-    mostra("produtos, tabela vazia", nProdutos, importa(pasta.path(), QStringLiteral("produtos.txt")));
+    const qint64 produtosVazia = importa(pasta.path(), QStringLiteral("produtos.txt"));
+    mostra("produtos, tabela vazia", nProdutos, produtosVazia, razao(produtosVazia, piso("PRODUTO")));
     mostra("produtos, de novo (toda linha altera)", nProdutos, importa(pasta.path(), QStringLiteral("produtos.txt")));
     if (modBancoDados::ValorUnico(QStringLiteral("SELECT COUNT(*) FROM PRODUTO")).toInt() != nProdutos
         || modBancoDados::ValorUnico(QStringLiteral("SELECT COUNT(*) FROM NCM_ITEM")).toInt() != nNcm)

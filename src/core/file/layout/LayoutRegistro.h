@@ -42,7 +42,11 @@ enum class TipoCampo { N, X, R, D2, D5, D7, DT, K, A };
 //  SemZerosEsquerda  leading zeros removed
 //  Decimal           leading zeros removed, the comma put at the field's scale (D2, D5, D7)
 //  Data              yyyymmdd back to ddmmyyyy (DT)
-enum class LeituraCampo { ComoEsta, Aparado, ZerosVazio, SemZerosEsquerda, Decimal, Data };
+//  MesAno            yyyymm back to mmyyyy (the reference month of record 00)
+//  ZeroEsquerda      as it stands, but a blank field gives zeros at its width (ZeroEsquerda)
+//  Ignorado          not taken: a copy of a field that an earlier record gives (record 01 repeats record 00)
+enum class LeituraCampo { ComoEsta, Aparado, ZerosVazio, SemZerosEsquerda, Decimal, Data, MesAno, ZeroEsquerda,
+                          Ignorado };
 
 struct CampoLayout {
     int posicao = 0;  // first column, counted from 1

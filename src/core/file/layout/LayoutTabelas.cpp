@@ -22,52 +22,53 @@ QVector<LayoutRegistro> cabecalho()
              .fixo(11, 5, s("02.00"), s("VERSAO_LAYOUT"))
              .campo(16, 1, T::A, s("CD_TIPO_VRT"))
              // Monthly: yyyymm from DT_REFERENCIA_VRT (stored mmyyyy); individual: "000000".
-             .campo(17, 6, T::N, s("DT_REFERENCIA_VRT"), s("DT_REFERENCIA_VRT"), s("VRT_MENSAL"))
-             .campo(23, 14, T::N, s("NR_INSCRICAO_EST"))
+             .campo(17, 6, T::N, s("DT_REFERENCIA_VRT"), s("DT_REFERENCIA_VRT"), s("VRT_MENSAL")).mesAno()
+             .campo(23, 14, T::N, s("NR_INSCRICAO_EST")).zeroEsquerda()
              .campo(37, 5, T::X, s("NR_SERIE_NF_SAIDA"), s("NR_SERIE_NF_SAIDA"), s("NOTA_FISCAL_SAIDA"))
-             .campo(42, 6, T::N, s("NR_NF_SAIDA"), s("NR_NF_SAIDA"), s("NOTA_FISCAL_SAIDA"))
+             .campo(42, 6, T::N, s("NR_NF_SAIDA"), s("NR_NF_SAIDA"), s("NOTA_FISCAL_SAIDA")).zeroEsquerda()
              .campo(48, 14, T::A, s("NR_CNPJ_INTERNADOR"))
              .pronto();
 
     r << MontaLayout(s("01"), 113, s("VRT"))
              .tipoRegistro()
-             .campo(3, 1, T::A, s("CD_TIPO_VRT"))
+             // Positions 3 to 49 repeat record 00, whose fields the reader takes.
+             .campo(3, 1, T::A, s("CD_TIPO_VRT")).ignorado()
              .fixo(4, 1, s("1"))
-             .campo(5, 6, T::N, s("DT_REFERENCIA_VRT"), s("DT_REFERENCIA_VRT"), s("VRT_MENSAL"))
-             .campo(11, 14, T::A, s("NR_CNPJ_INTERNADOR"))
-             .campo(25, 14, T::N, s("NR_INSCRICAO_EST"))
-             .campo(39, 5, T::X, s("NR_SERIE_NF_SAIDA"), s("NR_SERIE_NF_SAIDA"), s("NOTA_FISCAL_SAIDA"))
-             .campo(44, 6, T::N, s("NR_NF_SAIDA"), s("NR_NF_SAIDA"), s("NOTA_FISCAL_SAIDA"))
+             .campo(5, 6, T::N, s("DT_REFERENCIA_VRT"), s("DT_REFERENCIA_VRT"), s("VRT_MENSAL")).ignorado()
+             .campo(11, 14, T::A, s("NR_CNPJ_INTERNADOR")).ignorado()
+             .campo(25, 14, T::N, s("NR_INSCRICAO_EST")).ignorado()
+             .campo(39, 5, T::X, s("NR_SERIE_NF_SAIDA"), s("NR_SERIE_NF_SAIDA"), s("NOTA_FISCAL_SAIDA")).ignorado()
+             .campo(44, 6, T::N, s("NR_NF_SAIDA"), s("NR_NF_SAIDA"), s("NOTA_FISCAL_SAIDA")).ignorado()
+             // "00000000" reads back as itself: the date rule only moves the digits.
              .campo(50, 8, T::DT, s("DT_EMISS_NF_SAIDA"), s("DT_EMISS_NF_SAIDA"), s("NOTA_FISCAL_SAIDA"))
              .campo(58, 8, T::DT, s("DT_SAIDA_NF_SAIDA"), s("DT_SAIDA_NF_SAIDA"), s("NOTA_FISCAL_SAIDA"))
-             .campo(66, 4, T::N, s("CD_OP_FISCAL"), s("CD_OP_FISCAL"), s("NOTA_FISCAL_SAIDA"))
+             .campo(66, 4, T::N, s("CD_OP_FISCAL"), s("CD_OP_FISCAL"), s("NOTA_FISCAL_SAIDA")).zeroEsquerda()
              .campo(70, 1, T::N, s("CD_TIPO_DESTINAT"), s("CD_TIPO_DESTINAT"), s("NOTA_FISCAL_SAIDA"))
              .campo(71, 14, T::R, s("NR_DESTINAT"), s("NR_DESTINAT"), s("NOTA_FISCAL_SAIDA"))
              .campo(85, 2, T::X, s("CD_UF_DESTINO"), s("CD_UF_DESTINO"), s("NOTA_FISCAL_SAIDA"))
              .campo(87, 1, T::X, s("IN_SAIDA_ALC_AO"), s("IN_SAIDA_ALC_AO"), s("VRT_INDIVIDUAL"))
-             .campo(88, 3, T::N, s("NR_BANCO_ARREC"))
-             .campo(91, 4, T::N, s("NR_AG_BCO_ARREC"))
-             .campo(95, 19, T::N, s("NR_CC_AG_BCO_ARREC"))
+             .campo(88, 3, T::N, s("NR_BANCO_ARREC")).zerosVazio()
+             .campo(91, 4, T::N, s("NR_AG_BCO_ARREC")).zerosVazio()
+             .campo(95, 19, T::N, s("NR_CC_AG_BCO_ARREC")).zerosVazio()
              .pronto();
 
     MontaLayout r02(s("02"), 563, s("VALORES_DIVER_MANDADO"));
     r02.tipoRegistro().campo(3, 1, T::X, s("IND_MANDADO_JUDIC"), s("IND_MANDADO_JUDIC"), s("VRT"));
     for (int k = 1; k <= SlotsValores::QuantidadeMandado; ++k) {
-        const QString n = QStringLiteral("%1").arg(k, 2, 10, QLatin1Char('0'));
-        r02.campo(SlotsValores::posicaoIndicadorMandado(k), 1, T::X, s("IND_MANDADO_") + n, QString(""))
-            .campo(SlotsValores::posicaoValorMandado(k), SlotsValores::TamanhoValor, T::D2, s("VL_MANDADO_") + n,
-                   s("VL_TOTAL_DIVER_MANDADO"));
+        r02.campo(SlotsValores::posicaoIndicadorMandado(k), 1, T::X, SlotsValores::campoIndicadorMandado(k), QString(""))
+            .campo(SlotsValores::posicaoValorMandado(k), SlotsValores::TamanhoValor, T::D2,
+                   SlotsValores::campoValorMandado(k), s("VL_TOTAL_DIVER_MANDADO"));
     }
     r << r02.pronto();
 
     MontaLayout r03(s("03"), 524, s("VALORES_DIVER_RETIF"));
     r03.tipoRegistro()
-        .campo(3, 10, T::N, s("NR_VRT"), s("NR_VRT"), s("VRT"))
+        // Zeros: not a rectification, NR_VRT stored empty; the process number keeps its zeros.
+        .campo(3, 10, T::N, s("NR_VRT"), s("NR_VRT"), s("VRT")).zerosVazio()
         .campo(13, 17, T::N, s("NR_PROC_ADM_FISCAL"), s("NR_PROC_ADM_FISCAL"), s("VRT"));
     for (int k = 1; k <= SlotsValores::QuantidadeRetif; ++k) {
-        const QString n = QStringLiteral("%1").arg(k, 2, 10, QLatin1Char('0'));
-        r03.campo(SlotsValores::posicaoValorRetif(k), SlotsValores::TamanhoValor, T::D2, s("VL_RETIF_") + n,
-                  s("VL_TOTAL_DIVER_RETIF"));
+        r03.campo(SlotsValores::posicaoValorRetif(k), SlotsValores::TamanhoValor, T::D2,
+                  SlotsValores::campoValorRetif(k), s("VL_TOTAL_DIVER_RETIF"));
     }
     r << r03.pronto();
     return r;

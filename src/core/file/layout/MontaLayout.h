@@ -17,6 +17,9 @@ public:
     MontaLayout& aparado() { return le(LeituraCampo::Aparado); }
     MontaLayout& zerosVazio() { return le(LeituraCampo::ZerosVazio); }
     MontaLayout& semZerosEsquerda() { return le(LeituraCampo::SemZerosEsquerda); }
+    MontaLayout& mesAno() { return le(LeituraCampo::MesAno); }
+    MontaLayout& zeroEsquerda() { return le(LeituraCampo::ZeroEsquerda); }
+    MontaLayout& ignorado() { return le(LeituraCampo::Ignorado); }
     // Positions 1-2, the record type.
     MontaLayout& tipoRegistro();
     MontaLayout& zeros(int posicao, int tamanho);

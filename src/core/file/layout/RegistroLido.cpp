@@ -96,6 +96,9 @@ QString RegistroLido::lido(const CampoLayout& c) const
     case LeituraCampo::SemZerosEsquerda: return naoNulo(tiraZerosEsquerda(t));
     case LeituraCampo::Decimal: return naoNulo(Funcoes::InsereVirgula(tiraZerosEsquerda(t), c.casas()));
     case LeituraCampo::Data: return dataDoArquivo(t);
+    case LeituraCampo::MesAno: return t.size() == 6 ? t.mid(4, 2) + t.left(4) : t;
+    case LeituraCampo::ZeroEsquerda: return naoNulo(Funcoes::ZeroEsquerda(t, c.tamanho));
+    case LeituraCampo::Ignorado: return t;
     }
     return t;
 }
@@ -169,6 +172,10 @@ QStringView RegistroLido::lidoEm(const CampoLayout& c, QString& espaco) const
             return espaco;
         }
         return t;
+    case LeituraCampo::MesAno:
+    case LeituraCampo::ZeroEsquerda:
+    case LeituraCampo::Ignorado:
+        break;
     }
     espaco = lido(c);
     return espaco;

@@ -113,6 +113,8 @@ QVector<SlotValor> montaMandado()
         s.cdTipo = l.tipo;
         s.nmMod = nomeModalidade(l.mod);
         s.nmTipo = QString::fromUtf16(l.nmTipo);
+        s.campoIndicador = SlotsValores::campoIndicadorMandado(k);
+        s.campoValor = SlotsValores::campoValorMandado(k);
         v.append(s);
     }
     return v;
@@ -131,9 +133,15 @@ QVector<SlotValor> montaRetif()
         s.cdTipo = l.tipo;
         s.nmMod = nomeModalidade(l.mod);
         s.nmTipo = QString::fromUtf16(l.nmTipo);
+        s.campoValor = SlotsValores::campoValorRetif(k);
         v.append(s);
     }
     return v;
+}
+
+QString numeroSlot(int k)
+{
+    return QStringLiteral("%1").arg(k, 2, 10, QLatin1Char('0'));
 }
 
 int procuraSlot(const QVector<SlotValor>& lista, int cdMod, int cdTipo)
@@ -146,6 +154,35 @@ int procuraSlot(const QVector<SlotValor>& lista, int cdMod, int cdTipo)
 }
 
 }  // namespace
+
+QString SlotsValores::campoIndicadorMandado(int k)
+{
+    return QStringLiteral("IND_MANDADO_") + numeroSlot(k);
+}
+
+QString SlotsValores::campoValorMandado(int k)
+{
+    return QStringLiteral("VL_MANDADO_") + numeroSlot(k);
+}
+
+QString SlotsValores::campoValorRetif(int k)
+{
+    return QStringLiteral("VL_RETIF_") + numeroSlot(k);
+}
+
+const ColunasSlot& SlotsValores::colunasMandado()
+{
+    static const ColunasSlot c{QStringLiteral("CD_MOD_MANDADO"), QStringLiteral("CD_TIPO_DIVER_MANDADO"),
+                               QStringLiteral("NM_MOD_INT_MANDADO"), QStringLiteral("NM_TIPO_DIVER_MANDADO")};
+    return c;
+}
+
+const ColunasSlot& SlotsValores::colunasRetif()
+{
+    static const ColunasSlot c{QStringLiteral("CD_MOD_RETIF"), QStringLiteral("CD_TIPO_DIVER_RETIF"),
+                               QStringLiteral("NM_MOD_INT_RETIF"), QStringLiteral("NM_TIPO_DIVER_RETIF")};
+    return c;
+}
 
 const QVector<SlotValor>& SlotsValores::mandado()
 {

@@ -15,6 +15,14 @@ struct SlotValor {
     int cdTipo = 0;
     QString nmMod;
     QString nmTipo;
+    QString campoIndicador;    // the fields of the slot in the record's layout; record 03: no indicator
+    QString campoValor;
+};
+
+// The columns of a slot's row besides the declaration's key and the value (whose column the layout names):
+// the codes of modality and value type and their names.
+struct ColunasSlot {
+    QString cdMod, cdTipo, nmMod, nmTipo;
 };
 
 class SlotsValores {
@@ -27,6 +35,12 @@ public:
     static constexpr int posicaoIndicadorMandado(int k) { return 4 + (1 + TamanhoValor) * (k - 1); }
     static constexpr int posicaoValorMandado(int k) { return posicaoIndicadorMandado(k) + 1; }
     static constexpr int posicaoValorRetif(int k) { return 30 + TamanhoValor * (k - 1); }
+    // Names of the slot's fields in the layouts: "IND_MANDADO_01", "VL_MANDADO_01", "VL_RETIF_01".
+    static QString campoIndicadorMandado(int k);
+    static QString campoValorMandado(int k);
+    static QString campoValorRetif(int k);
+    static const ColunasSlot& colunasMandado();
+    static const ColunasSlot& colunasRetif();
     static const QVector<SlotValor>& mandado();
     static const QVector<SlotValor>& retif();
     // The slot of a pair of codes, compared as numbers ("03" finds 3), or 0 when the pair has none.

@@ -42,4 +42,24 @@ bool temJustificativaIndividual(const RegistroLido& r)
     return !RegistroLido::soBrancos(linha.mid(109, 253)) || !RegistroLido::soBrancos(linha.mid(367, 253));
 }
 
+QString indicadorRestituicao()
+{
+    return QStringLiteral("N");
+}
+
+QString indicadorRetificacao(const RegistroLido& r03)
+{
+    return r03.zeros(QStringLiteral("NR_VRT")) ? QStringLiteral("N") : QStringLiteral("S");
+}
+
+QString valorMandado(const RegistroLido& r02, const QString& campo)
+{
+    return r02.zeros(campo) ? QStringLiteral("0,00") : r02.lido(campo);
+}
+
+bool temValorRetif(const RegistroLido& r03, const QString& campo)
+{
+    return !r03.zeros(campo);
+}
+
 }  // namespace ExcecoesLeitura

@@ -30,4 +30,15 @@ NumeroPpb numeroPpb(const RegistroLido& r);
 // file from elsewhere with blanks there.
 bool temJustificativaIndividual(const RegistroLido& r);
 
+// VRT: IND_RESTITUICAO is always "N" on reading.
+QString indicadorRestituicao();
+// VRT: IND_RETIFICACAO is "S" when record 03 names the declaration it rectifies (NR_VRT not all zeros), else
+// "N"; only then are the values of record 03 read.
+QString indicadorRetificacao(const RegistroLido& r03);
+
+// Record 02: the flag of a slot decides, not its value; a flagged value of zeros is stored "0,00", not empty.
+QString valorMandado(const RegistroLido& r02, const QString& campo);
+// Record 03 has no flags: a slot of zeros gives no row, so a rectification value of zero is lost on reading.
+bool temValorRetif(const RegistroLido& r03, const QString& campo);
+
 }  // namespace ExcecoesLeitura

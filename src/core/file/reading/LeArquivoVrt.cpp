@@ -26,7 +26,6 @@ QVariant tx(const QString& v)
 {
     return ComandosPreparados::texto(v);
 }
-const QString ZerosValor = QString(SlotsValores::TamanhoValor, QLatin1Char('0'));
 }  // namespace
 
 LeArquivoVrt::LeArquivoVrt(QIODevice& arquivo, ModoLeitura modo) : m_arquivo(&arquivo), m_modo(modo)
@@ -159,26 +158,17 @@ bool LeArquivoVrt::leLinhas(LinhasArquivo& linhas)
         return false;
     if (m_estado.IdVrtLida.isEmpty())
         m_estado.IdVrtLida = Funcoes::GeraIdentificacao();
-    m_mandado = s("N");
-    m_retificacao = s("N");
-    m_nrVrt.clear();
-    m_processo.clear();
-    gravaCabecalho();
     avisaProgresso(m_estado.ContaLinhas, linhas.total());
     if (!registro02(linhas) || !registro03(linhas))
         return false;
-    m_comandos->executa("UPDATE VRT SET IND_MANDADO_JUDIC = ?, IND_RESTITUICAO = 'N', IND_RETIFICACAO = ?, "
-                        "NR_VRT = ?, NR_PROC_ADM_FISCAL = ? WHERE ID_VRT_MICRO = ?",
-                        {tx(m_mandado), tx(m_retificacao), tx(m_nrVrt), tx(m_processo), m_estado.IdVrtLida});
+    // The head rows go in whole once records 00 to 03 are read: inside the reading's one transaction this
+    // leaves the rows that inserting VRT after record 01 and completing it after record 03 would leave.
+    m_cabeca.grava(*m_comandos, m_estado.declaracao, m_estado.IdVrtLida);
     avisaProgresso(m_estado.ContaLinhas, linhas.total());
     m_cadastros->zeraContadores();
 
     if (m_estado.declaracao == TipoDeclaracao::Individual) {
-        m_comandos->executa("INSERT INTO NOTA_FISCAL_SAIDA (ID_VRT_MICRO, NR_SERIE_NF_SAIDA, NR_NF_SAIDA, "
-                            "DT_EMISS_NF_SAIDA, DT_SAIDA_NF_SAIDA, CD_OP_FISCAL, CD_TIPO_DESTINAT, NR_DESTINAT, "
-                            "CD_UF_DESTINO) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)",
-                            {m_estado.IdVrtLida, tx(m_serie), tx(m_numeroNf), tx(m_emissao), tx(m_saida), tx(m_cfop),
-                             tx(m_tipoDestinatario), tx(m_destinatario), tx(m_uf)});
+        m_cabeca.gravaNotaFiscal(*m_comandos, m_estado.IdVrtLida);
         m_estado.idNfs = m_comandos->valor("SELECT ID_NFS FROM NOTA_FISCAL_SAIDA WHERE ID_VRT_MICRO = ?",
                                            {m_estado.IdVrtLida});
         if (!m_estado.idNfs.isValid())
@@ -221,34 +211,30 @@ bool LeArquivoVrt::registro00(LinhasArquivo& linhas)
             return false;
     }
 
-    const RegistroLido r(linha, RegistrosCabeca::layout(1));
+    m_cabeca.defineLinha(1, linha);
+    const RegistroLido r = m_cabeca.registro(1);
     if (r.texto(s("VERSAO_LAYOUT")) != s("02.00"))
         return erroCabecalho(s("Erro no registro 00 - Versão do sistema!"));
     m_estado.TipoVrtLida = r.texto(s("CD_TIPO_VRT"));
     if (m_estado.TipoVrtLida != s("1") && m_estado.TipoVrtLida != s("2"))
         return erroCabecalho(s("Erro no registro 00 - Tipo VRT inválido!"));
     m_estado.declaracao = m_estado.TipoVrtLida == s("1") ? TipoDeclaracao::Individual : TipoDeclaracao::Mensal;
-
-    const QString aaaamm = r.texto(s("DT_REFERENCIA_VRT"));
-    m_referencia = aaaamm.mid(4, 2) + aaaamm.left(4);
-    m_inscricao = Funcoes::ZeroEsquerda(r.texto(s("NR_INSCRICAO_EST")), 14);
-    m_numeroNf = Funcoes::ZeroEsquerda(r.texto(s("NR_NF_SAIDA")), 6);
-    m_serie = Funcoes::BrancoDireita(r.texto(s("NR_SERIE_NF_SAIDA")), 5);
-    m_cnpj = r.texto(s("NR_CNPJ_INTERNADOR"));
-    if (RegistroLido::soZeros(m_cnpj))
+    if (r.zeros(s("NR_CNPJ_INTERNADOR")))
         return erroCabecalho(s("Erro no registro 00 - CNPJ inválido!"));
-    return procuraDuplicada();
+    return procuraDuplicada(r);
 }
 
-bool LeArquivoVrt::procuraDuplicada()
+bool LeArquivoVrt::procuraDuplicada(const RegistroLido& r00)
 {
+    // The key of the declaration as it will be stored: each field by its reading rule.
+    const auto campo = [&r00](const char* nome) { return tx(r00.lido(s(nome))); };
     QVariant achada;
     QString pergunta;
     if (m_estado.declaracao == TipoDeclaracao::Mensal) {
         achada = m_comandos->valor("SELECT VRT.ID_VRT_MICRO FROM VRT INNER JOIN VRT_MENSAL "
                                    "ON VRT.ID_VRT_MICRO = VRT_MENSAL.ID_VRT_MICRO "
                                    "WHERE NR_CNPJ_INTERNADOR = ? AND DT_REFERENCIA_VRT = ?",
-                                   {tx(m_cnpj), tx(m_referencia)});
+                                   {campo("NR_CNPJ_INTERNADOR"), campo("DT_REFERENCIA_VRT")});
         pergunta = s("Existe uma VRT para este CNPJ/Data de Referência, deseja substituí-la?");
     } else {
         // The series is compared as it stands in the file, five characters with its blanks.
@@ -257,7 +243,8 @@ bool LeArquivoVrt::procuraDuplicada()
                                    "ON VRT.ID_VRT_MICRO = NOTA_FISCAL_SAIDA.ID_VRT_MICRO "
                                    "WHERE NR_CNPJ_INTERNADOR = ? AND NR_NF_SAIDA = ? AND NR_SERIE_NF_SAIDA = ? "
                                    "AND NR_INSCRICAO_EST = ?",
-                                   {tx(m_cnpj), tx(m_numeroNf), tx(m_serie), tx(m_inscricao)});
+                                   {campo("NR_CNPJ_INTERNADOR"), campo("NR_NF_SAIDA"), campo("NR_SERIE_NF_SAIDA"),
+                                    campo("NR_INSCRICAO_EST")});
         pergunta = s("Existe uma VRT para Nota Fiscal deste CNPJ/Inscrição Estadual, deseja substituí-la?");
     }
     if (!achada.isValid()) {
@@ -277,38 +264,8 @@ bool LeArquivoVrt::registro01(LinhasArquivo& linhas)
     QString linha;
     if (!leCabeca(linhas, 2, linha))
         return false;
-    const RegistroLido r(linha, RegistrosCabeca::layout(2));
-    const auto data = [&r](const char* campo) {
-        const QString d = r.texto(s(campo));
-        return d == s("00000000") ? d : RegistroLido::dataDoArquivo(d);
-    };
-    m_emissao = data("DT_EMISS_NF_SAIDA");
-    m_saida = data("DT_SAIDA_NF_SAIDA");
-    m_cfop = Funcoes::ZeroEsquerda(r.texto(s("CD_OP_FISCAL")), 4);
-    m_tipoDestinatario = r.texto(s("CD_TIPO_DESTINAT"));
-    m_destinatario = r.aparado(s("NR_DESTINAT"));
-    m_uf = r.texto(s("CD_UF_DESTINO"));
-    m_saidaAlc = r.texto(s("IN_SAIDA_ALC_AO"));
-    m_banco = r.semZeros(s("NR_BANCO_ARREC"));
-    m_agencia = r.semZeros(s("NR_AG_BCO_ARREC"));
-    m_conta = r.semZeros(s("NR_CC_AG_BCO_ARREC"));
+    m_cabeca.defineLinha(2, linha);
     return true;
-}
-
-void LeArquivoVrt::gravaCabecalho()
-{
-    m_comandos->executa("INSERT INTO VRT (ID_VRT_MICRO, CD_TIPO_VRT, NR_CNPJ_INTERNADOR, IND_MANDADO_JUDIC, "
-                        "NR_BANCO_ARREC, NR_AG_BCO_ARREC, NR_CC_AG_BCO_ARREC, NR_INSCRICAO_EST, NR_VRT, "
-                        "NR_PROC_ADM_FISCAL, IND_RESTITUICAO, IND_RETIFICACAO) "
-                        "VALUES (?, ?, ?, 'N', ?, ?, ?, ?, '', '', 'N', 'N')",
-                        {m_estado.IdVrtLida, m_estado.TipoVrtLida, tx(m_cnpj), tx(m_banco), tx(m_agencia),
-                         tx(m_conta), tx(m_inscricao)});
-    if (m_estado.declaracao == TipoDeclaracao::Individual)
-        m_comandos->executa("INSERT INTO VRT_INDIVIDUAL (ID_VRT_MICRO, IN_SAIDA_ALC_AO) VALUES (?, ?)",
-                            {m_estado.IdVrtLida, tx(m_saidaAlc)});
-    else
-        m_comandos->executa("INSERT INTO VRT_MENSAL (ID_VRT_MICRO, DT_REFERENCIA_VRT) VALUES (?, ?)",
-                            {m_estado.IdVrtLida, tx(m_referencia)});
 }
 
 bool LeArquivoVrt::registro02(LinhasArquivo& linhas)
@@ -316,11 +273,10 @@ bool LeArquivoVrt::registro02(LinhasArquivo& linhas)
     QString linha;
     if (!leCabeca(linhas, 3, linha))
         return false;
-    const QString indicador = linha.mid(2, 1);
+    m_cabeca.defineLinha(3, linha);
+    const QString indicador = m_cabeca.registro(3).texto(s("IND_MANDADO_JUDIC"));
     if (indicador != s("N") && indicador != s("S"))
         return erroCabecalho(s("Erro no registro 02 - Indicador de mandado judicial inválido!"));
-    m_mandado = indicador;
-    GravaValoresMandado(linha);
     return true;
 }
 
@@ -329,50 +285,8 @@ bool LeArquivoVrt::registro03(LinhasArquivo& linhas)
     QString linha;
     if (!leCabeca(linhas, 4, linha))
         return false;
-    const RegistroLido r(linha, RegistrosCabeca::layout(4));
-    m_processo = r.texto(s("NR_PROC_ADM_FISCAL"));
-    if (r.zeros(s("NR_VRT"))) {
-        // Not a rectification: its slots are not read, and the process number keeps its zeros.
-        m_nrVrt.clear();
-        m_retificacao = s("N");
-        return true;
-    }
-    m_nrVrt = r.texto(s("NR_VRT"));
-    m_retificacao = s("S");
-    GravaValoresRetif(linha);
+    m_cabeca.defineLinha(4, linha);
     return true;
-}
-
-void LeArquivoVrt::GravaValoresMandado(const QString& linha)
-{
-    // The flag decides, not the value: a value of zero under "S" comes back as "0,00".
-    for (const SlotValor& slot : SlotsValores::mandado()) {
-        if (linha.mid(slot.posicaoIndicador - 1, 1) != s("S"))
-            continue;
-        const QString valor = linha.mid(slot.posicaoValor - 1, SlotsValores::TamanhoValor);
-        const QString guardado =
-            valor == ZerosValor ? s("0,00") : Funcoes::InsereVirgula(Funcoes::TiraZerosEsquerda(valor), 2);
-        m_comandos->executa("INSERT INTO VALORES_DIVER_MANDADO (ID_VRT_MICRO, CD_MOD_MANDADO, CD_TIPO_DIVER_MANDADO, "
-                            "VL_TOTAL_DIVER_MANDADO, NM_MOD_INT_MANDADO, NM_TIPO_DIVER_MANDADO) "
-                            "VALUES (?, ?, ?, ?, ?, ?)",
-                            {m_estado.IdVrtLida, QString::number(slot.cdMod), QString::number(slot.cdTipo),
-                             tx(guardado), slot.nmMod, slot.nmTipo});
-    }
-}
-
-void LeArquivoVrt::GravaValoresRetif(const QString& linha)
-{
-    // A zero value has no row after reading: record 03 has no flag to tell it from an absent one.
-    for (const SlotValor& slot : SlotsValores::retif()) {
-        const QString valor = linha.mid(slot.posicaoValor - 1, SlotsValores::TamanhoValor);
-        if (valor == ZerosValor)
-            continue;
-        m_comandos->executa("INSERT INTO VALORES_DIVER_RETIF (ID_VRT_MICRO, CD_MOD_RETIF, CD_TIPO_DIVER_RETIF, "
-                            "VL_TOTAL_DIVER_RETIF, NM_MOD_INT_RETIF, NM_TIPO_DIVER_RETIF) VALUES (?, ?, ?, ?, ?, ?)",
-                            {m_estado.IdVrtLida, QString::number(slot.cdMod), QString::number(slot.cdTipo),
-                             tx(Funcoes::InsereVirgula(Funcoes::TiraZerosEsquerda(valor), 2)), slot.nmMod,
-                             slot.nmTipo});
-    }
 }
 
 bool LeArquivoVrt::leItens(LinhasArquivo& linhas)

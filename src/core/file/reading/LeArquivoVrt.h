@@ -12,6 +12,7 @@
 // No, leaves the database exactly as it was (no partial declaration, a declaration to be replaced still there,
 // no number consumed). The report, or "Backup restaurado com o nome ...", only when the end of the file was
 // reached and committed.
+#include "core/file/reading/CabecalhoLido.h"
 #include "core/file/reading/EstadoLeitura.h"
 
 #include <QString>
@@ -74,10 +75,7 @@ private:
     bool registro01(LinhasArquivo& linhas);
     bool registro02(LinhasArquivo& linhas);
     bool registro03(LinhasArquivo& linhas);
-    bool procuraDuplicada();
-    void gravaCabecalho();
-    void GravaValoresMandado(const QString& linha);
-    void GravaValoresRetif(const QString& linha);
+    bool procuraDuplicada(const RegistroLido& r00);
     bool leItens(LinhasArquivo& linhas);
     void avisaProgresso(qint64 lidas, qint64 total, bool sempre = false);
 
@@ -95,14 +93,8 @@ private:
     EstadoLeitura m_estado;
     ComandosPreparados* m_comandos = nullptr;
     CadastrosLeitura* m_cadastros = nullptr;
-
-    // Head fields of records 00 to 03.
-    QString m_referencia;  // mmyyyy
-    QString m_inscricao, m_serie, m_numeroNf, m_cnpj;
-    QString m_emissao, m_saida, m_cfop, m_tipoDestinatario, m_destinatario, m_uf, m_saidaAlc;
-    QString m_banco, m_agencia, m_conta;
-    QString m_mandado = QStringLiteral("N"), m_retificacao = QStringLiteral("N");
-    QString m_nrVrt, m_processo;
+    // Records 00 to 03 as read; their rows go in once the four are read.
+    CabecalhoLido m_cabeca;
 };
 
 // The same, in one call, with the outcome shown: true when the file was read to its end.

@@ -9,39 +9,38 @@
 
 #include <QHash>
 
+// Literals without an allocation: the readers name fields on every record.
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
-QString c(const char* t)
-{
-    return QString::fromLatin1(t);
-}
-const QString ItemNfs = c("ITEM_NFS");
+const QString ItemNfs = u"ITEM_NFS"_s;
 }  // namespace
 
 // The rows each record gives, with the keys and constants the reading adds in front of the layout's fields.
 struct ModGravaVrtIndividual::Insercoes {
     explicit Insercoes(const ModGravaVrtIndividual& m)
-        : pe11(m.layout(11), c("ITEM_NFS_PE"), {c("ID_ITEM")}),
-          justificativa11(m.layout(11), c("JUST_DIF_ALIQ_PROD_VRT_IND"), {c("ID_ITEM")}),
-          nfa12(m.layout(12), c("ITEM_NFA_PE_IND"), {c("ID_ITEM")}),
-          di13(m.layout(13), c("ITEM_DI_PE_IND"), {c("ID_ITEM")}),
-          valores13(m.layout(13), c("ITEM_IMPORT_288_PE"), {c("ID_ITEM_DI")}),
-          dsi14(m.layout(14), c("ITEM_DSI_PE_IND"), {c("ID_ITEM")}),
-          ppb21(m.layout(21), c("ITEM_NFS_PI_COM_PPB"), {c("ID_ITEM"), c("CD_TIPO_COEF_REDUCAO")}),
-          dcre21(m.layout(21), c("DCRE"), {c("ID_ITEM")}, {c("QT_PRODUTO")}),
-          dcr21(m.layout(21), c("DCR"), {c("ID_ITEM")}),
-          semPpb31(m.layout(31), c("ITEM_NFS_PI_SEM_PPB"), {c("ID_ITEM")}),
-          insumo32(m.layout(32), c("INSUMO_ITEM_NFS"), {c("ID_ITEM")}),
-          justificativa33(m.layout(33), c("JUST_DIF_ALIQ_INS_VRT_IND"), {c("ID_INSUMO")}),
-          total33(m.layout(33), c("INSUMO_VRT_IND"), {c("ID_VRT_MICRO")}, {c("CD_INT_INSUMO")}),
-          nfa34(m.layout(34), c("ITEM_NFA_INS_IND"), {c("ID_INSUMO")}),
-          di35(m.layout(35), c("ITEM_DI_INS_IND"), {c("ID_INSUMO")}),
-          valores35(m.layout(35), c("ITEM_IMPORT_288_INS"), {c("ID_ITEM_DI")}),
-          dsi36(m.layout(36), c("ITEM_DSI_INS_IND"), {c("ID_INSUMO")}),
-          nacional41(m.layout(41), c("ITEM_NFS_100"), {c("ID_ITEM")})
+        : pe11(m.layout(11), u"ITEM_NFS_PE"_s, {u"ID_ITEM"_s}),
+          justificativa11(m.layout(11), u"JUST_DIF_ALIQ_PROD_VRT_IND"_s, {u"ID_ITEM"_s}),
+          nfa12(m.layout(12), u"ITEM_NFA_PE_IND"_s, {u"ID_ITEM"_s}),
+          di13(m.layout(13), u"ITEM_DI_PE_IND"_s, {u"ID_ITEM"_s}),
+          valores13(m.layout(13), u"ITEM_IMPORT_288_PE"_s, {u"ID_ITEM_DI"_s}),
+          dsi14(m.layout(14), u"ITEM_DSI_PE_IND"_s, {u"ID_ITEM"_s}),
+          ppb21(m.layout(21), u"ITEM_NFS_PI_COM_PPB"_s, {u"ID_ITEM"_s, u"CD_TIPO_COEF_REDUCAO"_s}),
+          dcre21(m.layout(21), u"DCRE"_s, {u"ID_ITEM"_s}, {u"QT_PRODUTO"_s}),
+          dcr21(m.layout(21), u"DCR"_s, {u"ID_ITEM"_s}),
+          semPpb31(m.layout(31), u"ITEM_NFS_PI_SEM_PPB"_s, {u"ID_ITEM"_s}),
+          insumo32(m.layout(32), u"INSUMO_ITEM_NFS"_s, {u"ID_ITEM"_s}),
+          justificativa33(m.layout(33), u"JUST_DIF_ALIQ_INS_VRT_IND"_s, {u"ID_INSUMO"_s}),
+          total33(m.layout(33), u"INSUMO_VRT_IND"_s, {u"ID_VRT_MICRO"_s}, {u"CD_INT_INSUMO"_s}),
+          nfa34(m.layout(34), u"ITEM_NFA_INS_IND"_s, {u"ID_INSUMO"_s}),
+          di35(m.layout(35), u"ITEM_DI_INS_IND"_s, {u"ID_INSUMO"_s}),
+          valores35(m.layout(35), u"ITEM_IMPORT_288_INS"_s, {u"ID_ITEM_DI"_s}),
+          dsi36(m.layout(36), u"ITEM_DSI_INS_IND"_s, {u"ID_INSUMO"_s}),
+          nacional41(m.layout(41), u"ITEM_NFS_100"_s, {u"ID_ITEM"_s})
     {
         for (int tipo : {11, 21, 31, 41})
             itens.insert(tipo, std::make_shared<InsercaoRegistro>(m.layout(tipo), ItemNfs,
-                                                                   QStringList{c("ID_NFS"), c("IND_MOD_INTERNACAO")}));
+                                                                   QStringList{u"ID_NFS"_s, u"IND_MOD_INTERNACAO"_s}));
     }
     // The invoice's item of records 11, 21, 31 and 41 (record 21 has no NCM: its item keeps it Null).
     QHash<int, std::shared_ptr<InsercaoRegistro>> itens;
@@ -60,14 +59,14 @@ ModGravaVrtIndividual::~ModGravaVrtIndividual() = default;
 
 bool ModGravaVrtIndividual::registraProduto(const RegistroLido& r, const QString& tipo, bool confereNcm)
 {
-    if (confereNcm && !m_cadastros.ExisteNcm(r.texto(c("CD_NCM_PROD"))))
+    if (confereNcm && !m_cadastros.ExisteNcm(r.texto(u"CD_NCM_PROD"_s)))
         return m_estado.erroRegistro(tipo, QStringLiteral("NCM não cadastrada"));
-    m_estado.nomeLido = r.texto(c("NM_INT_PROD"));
-    if (!m_cadastros.RegistraProduto(r.lido(c("CD_INT_PROD")), m_estado.nomeLido))
-        return m_estado.erroRegistro(tipo, c("Erro ao cadastrar o Produto"));
-    QString unidade = r.texto(c("NM_UNID_MED_PROD"));
+    m_estado.nomeLido = r.texto(u"NM_INT_PROD"_s);
+    if (!m_cadastros.RegistraProduto(r.lido(u"CD_INT_PROD"_s), m_estado.nomeLido))
+        return m_estado.erroRegistro(tipo, u"Erro ao cadastrar o Produto"_s);
+    QString unidade = r.texto(u"NM_UNID_MED_PROD"_s);
     if (!m_cadastros.RegistraUnidade(unidade))
-        return m_estado.erroRegistro(tipo, c("Erro ao cadastrar a Unidade de Medida"));
+        return m_estado.erroRegistro(tipo, u"Erro ao cadastrar a Unidade de Medida"_s);
     return true;
 }
 
@@ -80,9 +79,9 @@ bool ModGravaVrtIndividual::novoItem(const RegistroLido& r, const QString& modal
 
 bool ModGravaVrtIndividual::registro11(const RegistroLido& r)
 {
-    if (!registraProduto(r, c("11"), true))
+    if (!registraProduto(r, u"11"_s, true))
         return false;
-    if (!novoItem(r, c("1"), QStringLiteral("Problema de Gravação no Registro 11 da individual!")))
+    if (!novoItem(r, u"1"_s, QStringLiteral("Problema de Gravação no Registro 11 da individual!")))
         return false;
     const Insercoes& ins = *m_insercoes;
     ins.pe11.executa(m_comandos, r, {m_estado.itemAtual});
@@ -104,7 +103,7 @@ bool ModGravaVrtIndividual::registro13(const RegistroLido& r)
 {
     m_insercoes->di13.executa(m_comandos, r, {m_estado.itemAtual});
     QVariant di;
-    if (!novaChave(di, c("13"), QStringLiteral("ERRO NA RECUPERAÇÃO DO REGISTRO 13 DA INDIVIDUAL")))
+    if (!novaChave(di, u"13"_s, QStringLiteral("ERRO NA RECUPERAÇÃO DO REGISTRO 13 DA INDIVIDUAL")))
         return false;
     m_insercoes->valores13.executa(m_comandos, r, {di});
     return true;
@@ -118,26 +117,26 @@ bool ModGravaVrtIndividual::registro14(const RegistroLido& r)
 
 bool ModGravaVrtIndividual::registro21(const RegistroLido& r)
 {
-    if (!registraProduto(r, c("21"), false))
+    if (!registraProduto(r, u"21"_s, false))
         return false;
     // The record has no NCM; its message on a missing key is record 41's, as the system has it.
-    if (!novoItem(r, c("2"), QStringLiteral("Problema de Gravação no Registro 41 da individual")))
+    if (!novoItem(r, u"2"_s, QStringLiteral("Problema de Gravação no Registro 41 da individual")))
         return false;
     const Insercoes& ins = *m_insercoes;
     const ExcecoesLeitura::NumeroPpb ppb = ExcecoesLeitura::numeroPpb(r);
     ins.ppb21.executa(m_comandos, r, {m_estado.itemAtual, ppb.tipo});
-    if (ppb.tipo == c("1"))
+    if (ppb.tipo == u"1"_s)
         ins.dcre21.executa(m_comandos, r, {m_estado.itemAtual});
-    else if (ppb.tipo == c("2"))
+    else if (ppb.tipo == u"2"_s)
         ins.dcr21.executa(m_comandos, r, {m_estado.itemAtual});
     return true;
 }
 
 bool ModGravaVrtIndividual::registro31(const RegistroLido& r)
 {
-    if (!registraProduto(r, c("31"), true))
+    if (!registraProduto(r, u"31"_s, true))
         return false;
-    if (!novoItem(r, c("3"), QStringLiteral("Problema de Gravação no Registro 31 da individual")))
+    if (!novoItem(r, u"3"_s, QStringLiteral("Problema de Gravação no Registro 31 da individual")))
         return false;
     m_insercoes->semPpb31.executa(m_comandos, r, {m_estado.itemAtual});
     return true;
@@ -147,32 +146,32 @@ bool ModGravaVrtIndividual::registro32(const RegistroLido& r)
 {
     // The product is registered under the name read last: from the second input on that is the previous
     // input's name, written over the product's. This is how the system behaves.
-    if (!m_cadastros.RegistraProduto(r.lido(c("CD_INT_PROD")), m_estado.nomeLido))
-        return m_estado.erroRegistro(c("32"), QStringLiteral("Insumo não cadastrado"));
-    const QString codigo = r.lido(c("CD_INT_INSUMO"));
-    const QString nome = r.texto(c("NM_INT_INSUMO"));
+    if (!m_cadastros.RegistraProduto(r.lido(u"CD_INT_PROD"_s), m_estado.nomeLido))
+        return m_estado.erroRegistro(u"32"_s, QStringLiteral("Insumo não cadastrado"));
+    const QString codigo = r.lido(u"CD_INT_INSUMO"_s);
+    const QString nome = r.texto(u"NM_INT_INSUMO"_s);
     m_estado.nomeLido = nome;
     if (!m_cadastros.RegistraProduto(codigo, nome))
-        return m_estado.erroRegistro(c("32"), c("Erro ao cadastrar o Insumo"));
-    if (!m_cadastros.ExisteNcm(r.texto(c("CD_NCM_INSUMO"))))
-        return m_estado.erroRegistro(c("32"), QStringLiteral("NCM não cadastrada"));
+        return m_estado.erroRegistro(u"32"_s, u"Erro ao cadastrar o Insumo"_s);
+    if (!m_cadastros.ExisteNcm(r.texto(u"CD_NCM_INSUMO"_s)))
+        return m_estado.erroRegistro(u"32"_s, QStringLiteral("NCM não cadastrada"));
     m_insercoes->insumo32.executa(m_comandos, r, {m_estado.itemAtual});
-    return novaChave(m_estado.insumoAtual, c("32"), QStringLiteral("Problema de Gravação no Registro 32 da individual"));
+    return novaChave(m_estado.insumoAtual, u"32"_s, QStringLiteral("Problema de Gravação no Registro 32 da individual"));
 }
 
 bool ModGravaVrtIndividual::registro33(const RegistroLido& r)
 {
-    const QString codigo = r.lido(c("CD_INT_INSUMO"));
+    const QString codigo = r.lido(u"CD_INT_INSUMO"_s);
     if (!m_cadastros.RegistraProduto(codigo, m_estado.nomeLido))
-        return m_estado.erroRegistro(c("33"), QStringLiteral("Insumo não cadastrado"));
+        return m_estado.erroRegistro(u"33"_s, QStringLiteral("Insumo não cadastrado"));
     const Insercoes& ins = *m_insercoes;
     // Unlike the monthly reader, a row only when a justification is there.
-    if (!r.brancos(c("JUST_II_DIF_TEC")) || !r.brancos(c("JUST_IPI_DIF_TIPI"))) {
+    if (!r.brancos(u"JUST_II_DIF_TEC"_s) || !r.brancos(u"JUST_IPI_DIF_TIPI"_s)) {
         QVariantList v = ins.justificativa33.valores(r, {m_estado.insumoAtual});
         ExcecoesLeitura::aliquotaSoComJustificativa(r, ins.justificativa33, v);
         ins.justificativa33.executa(m_comandos, v);
     }
-    if (!r.zeros(c("QT_TOT_INS")) && !m_estado.insumosComTotal.contains(codigo)) {
+    if (!r.zeros(u"QT_TOT_INS"_s) && !m_estado.insumosComTotal.contains(codigo)) {
         ins.total33.executa(m_comandos, r, {m_estado.IdVrtLida});
         m_estado.insumosComTotal.insert(codigo);
     }
@@ -189,7 +188,7 @@ bool ModGravaVrtIndividual::registro35(const RegistroLido& r)
 {
     m_insercoes->di35.executa(m_comandos, r, {m_estado.insumoAtual});
     QVariant di;
-    if (!novaChave(di, c("35"), QStringLiteral("ERRO NA RECUPERAÇÃO DO REGISTRO 35 DA INDIVIDUAL")))
+    if (!novaChave(di, u"35"_s, QStringLiteral("ERRO NA RECUPERAÇÃO DO REGISTRO 35 DA INDIVIDUAL")))
         return false;
     m_insercoes->valores35.executa(m_comandos, r, {di});
     return true;
@@ -203,9 +202,9 @@ bool ModGravaVrtIndividual::registro36(const RegistroLido& r)
 
 bool ModGravaVrtIndividual::registro41(const RegistroLido& r)
 {
-    if (!registraProduto(r, c("41"), true))
+    if (!registraProduto(r, u"41"_s, true))
         return false;
-    if (!novoItem(r, c("4"), QStringLiteral("Problema de Gravação no Registro 41 da individual")))
+    if (!novoItem(r, u"4"_s, QStringLiteral("Problema de Gravação no Registro 41 da individual")))
         return false;
     m_insercoes->nacional41.executa(m_comandos, r, {m_estado.itemAtual});
     return true;
