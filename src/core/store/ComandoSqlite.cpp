@@ -27,6 +27,12 @@ sqlite3* ComandoSqlite::conexao()
     return db;
 }
 
+MarcaEscrita ComandoSqlite::marcaEscrita()
+{
+    sqlite3* db = conexao();
+    return {db, qint64(sqlite3_total_changes64(db))};
+}
+
 ComandoSqlite::ComandoSqlite(const QString& sql) : m_db(conexao())
 {
     const QByteArray texto = sql.toUtf8();
@@ -216,6 +222,11 @@ QVariant ComandoSqlite::valor(int coluna) const
 int ComandoSqlite::colunas() const
 {
     return sqlite3_column_count(m_stmt);
+}
+
+QString ComandoSqlite::nomeColuna(int coluna) const
+{
+    return QString::fromUtf8(sqlite3_column_name(m_stmt, coluna));
 }
 
 QString ComandoSqlite::texto(int coluna) const

@@ -22,6 +22,16 @@
 struct sqlite3;
 struct sqlite3_stmt;
 
+// Where the session's connection stands in its writing: any row inserted, updated or deleted on it (by a cascade
+// too) moves it on. Two equal marks taken on one connection mean that nothing was written in between, so what
+// was read at the first still stands at the second.
+struct MarcaEscrita {
+    const sqlite3* conexao = nullptr;
+    qint64 alteracoes = -1;
+    bool operator==(const MarcaEscrita& o) const { return conexao == o.conexao && alteracoes == o.alteracoes; }
+    bool operator!=(const MarcaEscrita& o) const { return !(*this == o); }
+};
+
 class ComandoSqlite {
 public:
     // Prepares `sql` ("?" placeholders) on ConexaoBanco(); a statement that cannot be prepared ends the run.
@@ -54,8 +64,9 @@ public:
     // The same as valor(coluna).toString(), without the QVariant.
     QString texto(int coluna) const;
     qint64 inteiro(int coluna) const;
-    // How many columns the statement gives.
+    // How many columns the statement gives, and the name of one (as the statement names it).
     int colunas() const;
+    QString nomeColuna(int coluna) const;
 
     // Key that the engine gave the last row inserted on this connection, or an invalid QVariant (no row yet).
     QVariant ultimaChave() const;
@@ -63,6 +74,8 @@ public:
 
     // The engine's handle of the session's connection.
     static sqlite3* conexao();
+    // The session's connection's mark now.
+    static MarcaEscrita marcaEscrita();
 
 private:
     bool passo();
