@@ -267,7 +267,7 @@ void ExecutorBloco::semEscolha()
 // of rows again. A grid whose fill is still pending reads the rows when it fills.
 void ExecutorBloco::atualizaGrade()
 {
-    if (m_grade->fillPending() || m_marca.alteracoes < 0) {
+    if (m_grade->fillPending()) {
         semEscolha();
         return;
     }
