@@ -3,15 +3,18 @@
 // foreign products), 1,000 products without basic process (two destinations and three inputs each, the inputs
 // shared by many products) and a full
 // values tab (every modality and type of both tables). Opening runs as the chooser's Abrir does (AbreTela and
-// FuncaoForm 2) until the editor is shown; saving is the main window's Salvar after a write. Prints the times
-// of several runs; never fails on time.
+// FuncaoForm 2) until the editor is shown; saving is the main window's Salvar after a write. Then it works on
+// the tab "100% Nacional" as a user does: shows it, Incluir, Salvar, Alterar, Excluir. Prints the times of
+// several runs; never fails on time.
 #include "app/RegistroTelas.h"
 #include "gui/assistants/frmAssistenteVRT.h"
 #include "gui/editor/BlocosValores.h"
+#include "core/rules/DigitoVerificador.h"
 #include "core/session/MsgBox.h"
 #include "gui/shell/frmVRTPLN.h"
 #include "core/session/modVRTPLN.h"
 #include "core/store/modBancoDados.h"
+#include "gui/widgets/ConsultGrid.h"
 
 #include <QAction>
 #include <QAbstractButton>
@@ -21,6 +24,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QSqlQuery>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <cstdio>
 
@@ -69,13 +73,23 @@ void montaSemPPB()
 // Items of each other modality, each with two destinations; the foreign products with a DI on each destination.
 const int ItensOutros = 1000;
 
+// A rectified declaration names the one it rectifies: a number with a good check digit, so that the general data
+// let the user leave tab 0.
+QString numeroRetificado()
+{
+    for (int d = 0; d <= 9; ++d)
+        if (Funcoes::ValidaDigito(QStringLiteral("091234567%1").arg(d), QStringLiteral("VRT")))
+            return QStringLiteral("091234567%1").arg(d);
+    return QString();
+}
+
 void monta()
 {
     Transacao t;
     ExecutaSql(QStringLiteral("INSERT INTO VRT (ID_VRT_MICRO, CD_TIPO_VRT, NR_CNPJ_INTERNADOR, IND_MANDADO_JUDIC, "
                               "NR_VRT, NR_PROC_ADM_FISCAL, IND_RESTITUICAO, IND_RETIFICACAO) VALUES "
-                              "(?, '2', '11222333000181', 'S', '', '', 'N', 'S')"),
-               {Id});
+                              "(?, '2', '11222333000181', 'S', ?, '', 'N', 'S')"),
+               {Id, numeroRetificado()});
     ExecutaSql(QStringLiteral("INSERT INTO VRT_MENSAL (ID_VRT_MICRO, DT_REFERENCIA_VRT) VALUES (?, '052009')"), {Id});
     QSqlQuery item(ConexaoBanco());
     item.prepare(QStringLiteral("INSERT INTO ITEM_VRT_MEN (ID_VRT_MICRO, CD_INT_PRODUTO, NM_INT_PRODUTO, "
@@ -85,7 +99,11 @@ void monta()
     QSqlQuery destino(ConexaoBanco());
     destino.prepare(QStringLiteral("INSERT INTO DESTINO_ITEM_VRT_MEN (ID_ITEM_VRT, CD_LOCAL_DESTINO, QT_PROD_LOC_DEST) "
                                    "VALUES (?, ?, '1,00000')"));
+    QSqlQuery produto(ConexaoBanco());
+    produto.prepare(QStringLiteral("INSERT INTO PRODUTO (CD_INT_PRODUTO, NM_INT_PRODUTO) VALUES (?, 'Produto')"));
     for (int i = 0; i < Itens; ++i) {
+        produto.bindValue(0, QStringLiteral("P%1").arg(i));
+        produto.exec();
         item.bindValue(0, Id);
         item.bindValue(1, QStringLiteral("P%1").arg(i));
         item.exec();
@@ -145,8 +163,27 @@ void monta()
     t.confirma();
 }
 
-// One Incluir on the tab "100% Nacional" with the 10,000 items in its grid, as a user makes it.
-void incluiNacional(frmVRTPLN& janela)
+double ms(const QElapsedTimer& relogio)
+{
+    return relogio.nsecsElapsed() / 1e6;
+}
+
+void clica(QWidget* tela, const char* botao)
+{
+    tela->findChild<QAbstractButton*>(QLatin1String(botao))->click();
+}
+
+// A row of the grid chosen as the cursor keys choose it.
+void escolheLinha(QWidget* tela, int linha)
+{
+    auto* grade = tela->findChild<ConsultGrid*>(QStringLiteral("grdConsulta100NacionalMensal"));
+    grade->setFocus();
+    grade->setCurrentCell(linha, 1);
+}
+
+// On the tab "100% Nacional" with its 10,000 items, as a user works there: the tab brought up (its grid is read
+// then), one Incluir, Salvar, one Alterar and one Excluir of rows in the middle of the grid.
+void trabalhaNoNacional(frmVRTPLN& janela)
 {
     ExecutaSql(QStringLiteral("INSERT INTO PRODUTO (CD_INT_PRODUTO, NM_INT_PRODUTO) VALUES ('NOVO', 'Produto novo')"));
     frmAssistenteVRT::IdVrtAbrir = Id;
@@ -154,6 +191,11 @@ void incluiNacional(frmVRTPLN& janela)
     QWidget* tela = janela.telaAberta();
     janela.telaAberta()->FuncaoForm(2);
     QApplication::processEvents();
+    QElapsedTimer relogio;
+    relogio.start();
+    tela->findChild<QTabWidget*>(QStringLiteral("tabDeclaracao"))->setCurrentIndex(4);
+    QApplication::processEvents();
+    std::printf("aba \"100%% Nacional\" mostrada (a grade lida): %.1f ms\n", ms(relogio));
     auto texto = [tela](const char* nome, const char* valor) {
         tela->findChild<QLineEdit*>(QLatin1String(nome))->setText(QLatin1String(valor));
     };
@@ -166,12 +208,26 @@ void incluiNacional(frmVRTPLN& janela)
     unidade->showPopup();
     unidade->hidePopup();
     unidade->setCurrentIndex(0);
-    QElapsedTimer relogio;
-    relogio.start();
-    tela->findChild<QAbstractButton*>(QStringLiteral("cmdIncluir_tab100Nacional_Mensal"))->click();
-    const qint64 incluir = relogio.nsecsElapsed();
+    relogio.restart();
+    clica(tela, "cmdIncluir_tab100Nacional_Mensal");
+    const double incluir = ms(relogio);
     const int itens = ValorUnico(QStringLiteral("SELECT COUNT(*) FROM ITEM_VRT_MEN WHERE IND_MOD_INTERNACAO = '4'")).toInt();
-    std::printf("Incluir em \"100%% Nacional\" com %d itens na grade: %.1f ms\n", itens - 1, incluir / 1e6);
+    std::printf("Incluir em \"100%% Nacional\" com %d itens na grade: %.1f ms\n", itens - 1, incluir);
+    relogio.restart();
+    janela.acao(QStringLiteral("mnuDeclaracaoSalvar"))->trigger();
+    std::printf("Salvar na aba \"100%% Nacional\" depois do Incluir: %.1f ms\n", ms(relogio));
+
+    escolheLinha(tela, 5000);
+    texto("msk100N(0)", "2");
+    relogio.restart();
+    clica(tela, "cmdAlterar_tab100Nacional_Mensal");
+    std::printf("Alterar da linha 5001: %.1f ms\n", ms(relogio));
+    escolheLinha(tela, 4000);
+    const ManipuladorMsg antes = InstalaManipuladorMsg([](const QString&, int, const QString&) { return int(Msg::Yes); });
+    relogio.restart();
+    clica(tela, "cmdExcluir_tab100Nacional_Mensal");
+    std::printf("Excluir da linha 4001: %.1f ms\n", ms(relogio));
+    InstalaManipuladorMsg(antes);
     modVRTPLN::AlteracaoPendente = false;
     janela.fechaTela();
 }
@@ -183,6 +239,8 @@ int main(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
+    // The messages (on stderr) in their place among the figures.
+    std::setvbuf(stdout, nullptr, _IONBF, 0);
     InstalaManipuladorMsg(ManipuladorConsole);
     QTemporaryDir pasta;
     modVRTPLN::CaminhoAplicacao = pasta.path();
@@ -224,6 +282,6 @@ int main(int argc, char** argv)
         janela.fechaTela();
         QApplication::processEvents();
     }
-    incluiNacional(janela);
+    trabalhaNoNacional(janela);
     return 0;
 }

@@ -27,6 +27,12 @@ sqlite3* ComandoSqlite::conexao()
     return db;
 }
 
+MarcaEscrita ComandoSqlite::marcaEscrita()
+{
+    sqlite3* db = conexao();
+    return {db, qint64(sqlite3_total_changes64(db))};
+}
+
 ComandoSqlite::ComandoSqlite(const QString& sql) : m_db(conexao())
 {
     const QByteArray texto = sql.toUtf8();

@@ -23,6 +23,16 @@
 struct sqlite3;
 struct sqlite3_stmt;
 
+// Where the session's connection stands in its writing: any row inserted, updated or deleted on it (by a cascade
+// too) moves it on. Two equal marks taken on one connection mean that nothing was written in between, so what
+// was read at the first still stands at the second.
+struct MarcaEscrita {
+    const sqlite3* conexao = nullptr;
+    qint64 alteracoes = -1;
+    bool operator==(const MarcaEscrita& o) const { return conexao == o.conexao && alteracoes == o.alteracoes; }
+    bool operator!=(const MarcaEscrita& o) const { return !(*this == o); }
+};
+
 class ComandoSqlite {
 public:
     // Prepares `sql` ("?" placeholders) on ConexaoBanco(); a statement that cannot be prepared ends the run.
@@ -70,6 +80,8 @@ public:
 
     // The engine's handle of the session's connection.
     static sqlite3* conexao();
+    // The session's connection's mark now.
+    static MarcaEscrita marcaEscrita();
 
 private:
     bool passo();

@@ -1,5 +1,6 @@
 #include "core/store/ItemProdutoEstrangeiro.h"
 
+#include "core/store/ComandoSqlite.h"
 #include "core/store/modBancoDados.h"
 
 #include <QSqlRecord>
@@ -25,6 +26,32 @@ QList<QVariantMap> mapas(const QString& sql, const QVariantList& valores)
         for (int i = 0; i < r.count(); ++i)
             m.insert(r.fieldName(i).toUpper(), rs.value(i).isNull() ? QString() : rs.value(i).toString());
         linhas << m;
+    }
+    return linhas;
+}
+
+// The rows of a grid, each the values of `colunas` (names the statement gives, in any case) in that order; a
+// name the statement does not give yields "". Read through the engine's own interface: a grid of thousands of
+// rows costs no map and no QVariant per cell.
+QList<QStringList> linhasPorNome(const QString& sql, const QVariantList& valores, const QStringList& colunas)
+{
+    ComandoSqlite rs(sql);
+    rs.abre(valores);
+    QList<int> indice;
+    for (const QString& c : colunas) {
+        int achada = -1;
+        for (int i = 0; i < rs.colunas() && achada < 0; ++i)
+            if (rs.nomeColuna(i).compare(c, Qt::CaseInsensitive) == 0)
+                achada = i;
+        indice << achada;
+    }
+    QList<QStringList> linhas;
+    while (rs.proxima()) {
+        QStringList linha;
+        linha.reserve(indice.size());
+        for (int i : std::as_const(indice))
+            linha << (i < 0 ? QString() : rs.texto(i));
+        linhas << linha;
     }
     return linhas;
 }
@@ -128,9 +155,9 @@ void ExcluiAliquotasMensais(qint64 idItem)
     ExecutaSql(QStringLiteral("DELETE FROM JUST_DIF_ALIQ_PROD_VRT_MEN WHERE ID_ITEM_VRT = ?"), {idItem});
 }
 
-QList<QVariantMap> LinhasMensais(const QString& idVrt)
+QList<QStringList> LinhasMensais(const QString& idVrt, const QStringList& colunas)
 {
-    return mapas(QStringLiteral(
+    return linhasPorNome(QStringLiteral(
                      "SELECT I.ID_ITEM_VRT, D.ID_DEST_PRODUTO, I.CD_INT_PRODUTO, I.NM_INT_PRODUTO, I.CD_NCM_PRODUTO, "
                      "N.DESCR_NCM_PRODUTO, N.NM_UNID_MED_EST, I.NM_UNID_MED_PROD, I.QT_PROD_UNID_PROD, "
                      "I.QT_PROD_UNID_EST, D.CD_LOCAL_DESTINO, L.NM_LOCAL_DESTINO, D.QT_PROD_LOC_DEST, J.ALIQ_II_DIF_TEC, "
@@ -140,7 +167,7 @@ QList<QVariantMap> LinhasMensais(const QString& idVrt)
                      "LEFT JOIN NCM_ITEM N ON N.CD_NCM_PRODUTO = I.CD_NCM_PRODUTO "
                      "LEFT JOIN JUST_DIF_ALIQ_PROD_VRT_MEN J ON J.ID_ITEM_VRT = I.ID_ITEM_VRT "
                      "WHERE I.ID_VRT_MICRO = ? AND I.IND_MOD_INTERNACAO = '1' ORDER BY D.ID_DEST_PRODUTO"),
-                 {idVrt});
+                 {idVrt}, colunas);
 }
 
 QList<Item> ItensDoProduto(const QString& idVrt, const QString& codigo, qint64 excetoId)
@@ -202,9 +229,9 @@ void ExcluiAliquotasNota(qint64 idItem)
     ExecutaSql(QStringLiteral("DELETE FROM JUST_DIF_ALIQ_PROD_VRT_IND WHERE ID_ITEM = ?"), {idItem});
 }
 
-QList<QVariantMap> LinhasNota(qint64 idNfs)
+QList<QStringList> LinhasNota(qint64 idNfs, const QStringList& colunas)
 {
-    return mapas(QStringLiteral(
+    return linhasPorNome(QStringLiteral(
                      "SELECT I.ID_ITEM, I.NR_ITEM_NF_SAIDA, I.CD_INT_PROD, I.NM_INT_PROD, I.CD_NCM_PROD, "
                      "N.DESCR_NCM_PRODUTO, N.NM_UNID_MED_EST, I.NM_UNID_MED_PROD, P.QT_INT_UNID_NFS, "
                      "P.VL_INT_UNID_NFS, P.QT_INT_UNID_EST, P.VL_IPI_DESTACADO, J.ALIQ_II_DIF_TEC, J.JUST_II_DIF_TEC, "
@@ -213,7 +240,7 @@ QList<QVariantMap> LinhasNota(qint64 idNfs)
                      "LEFT JOIN NCM_ITEM N ON N.CD_NCM_PRODUTO = I.CD_NCM_PROD "
                      "LEFT JOIN JUST_DIF_ALIQ_PROD_VRT_IND J ON J.ID_ITEM = I.ID_ITEM "
                      "WHERE I.ID_NFS = ? AND I.IND_MOD_INTERNACAO = '1' ORDER BY I.NR_ITEM_NF_SAIDA"),
-                 {idNfs});
+                 {idNfs}, colunas);
 }
 
 }  // namespace ItemProdutoEstrangeiro

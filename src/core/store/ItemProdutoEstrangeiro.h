@@ -52,8 +52,8 @@ void ExcluiAliquotasMensais(qint64 idItem);
 // One row per destination of the declaration's foreign products, in order of destination: ID_ITEM_VRT,
 // ID_DEST_PRODUTO, CD_INT_PRODUTO, NM_INT_PRODUTO, CD_NCM_PRODUTO, DESCR_NCM_PRODUTO, NM_UNID_MED_EST,
 // NM_UNID_MED_PROD, QT_PROD_UNID_EST, CD_LOCAL_DESTINO, NM_LOCAL_DESTINO, QT_PROD_LOC_DEST and the four of the
-// rates (empty when none).
-QList<QVariantMap> LinhasMensais(const QString& idVrt);
+// rates (empty when none). Each row gives the values of `colunas`, named so, in that order.
+QList<QStringList> LinhasMensais(const QString& idVrt, const QStringList& colunas);
 
 // Individual.
 // The foreign-product items of this code in every exit invoice of the declaration, but `excetoId`, in order.
@@ -66,7 +66,7 @@ void GravaAliquotasNota(qint64 idItem, const Aliquotas& a);
 void ExcluiAliquotasNota(qint64 idItem);
 // One row per foreign-product item of the exit invoice, by item number: ID_ITEM, NR_ITEM_NF_SAIDA,
 // CD_INT_PROD, NM_INT_PROD, CD_NCM_PROD, DESCR_NCM_PRODUTO, NM_UNID_MED_EST, NM_UNID_MED_PROD, the four values
-// and the four of the rates.
-QList<QVariantMap> LinhasNota(qint64 idNfs);
+// and the four of the rates; each row the values of `colunas`, in that order.
+QList<QStringList> LinhasNota(qint64 idNfs, const QStringList& colunas);
 
 }  // namespace ItemProdutoEstrangeiro

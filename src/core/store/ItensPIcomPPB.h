@@ -14,6 +14,9 @@ QList<QStringList> LinhasMensal(const QString& idVrt, const QString& tipo);
 // NM_INT_PROD, QT_PRODUTO, then for a DCR VL_II_UNIT_DOLAR, PC_COEF_REDUCAO_II, NM_UNID_MED_PROD, and last
 // VL_PIS, VL_COFINS.
 QList<QStringList> LinhasIndividual(qint64 idNfs, const QString& tipo);
+// Whether those grids would have a row, without reading them.
+bool TemLinhasMensal(const QString& idVrt, const QString& tipo);
+bool TemLinhasIndividual(qint64 idNfs, const QString& tipo);
 
 // Monthly. A number under which the product stands with this type in the declaration (other than `exceto`),
 // or "".

@@ -196,30 +196,60 @@ int ExecutorBloco::colunaDaGrade(const QString& coluna) const
     return -1;
 }
 
-QList<QStringList> ExecutorBloco::linhasDaGrade() const
+QList<QStringList> ExecutorBloco::linhasDoBanco() const
 {
-    QList<QStringList> linhas;
     const QVariant pai = m_pai();
     if (pai.toString().isEmpty() || pai.toString() == QLatin1String("0"))
-        return linhas;
-    linhas = m_d.linhas ? m_d.linhas(pai) : Bloco::Linhas(m_d.dados, pai, colunasConsulta());
-    for (QStringList& l : linhas) {
-        for (int i = 0; i < l.size() && i < m_d.colunasGrade.size(); ++i) {
-            const ColunaGrade& g = m_d.colunasGrade.at(i);
-            if (g.exibe)
-                l[i] = g.exibe(l.at(i));
-            else if (!g.formato.isEmpty())
-                l[i] = Funcoes::Formata(l.at(i), g.formato);
-        }
-        l.prepend(QString());
+        return {};
+    return m_d.linhas ? m_d.linhas(pai) : Bloco::Linhas(m_d.dados, pai, colunasConsulta());
+}
+
+QStringList ExecutorBloco::linhaDaGrade(const QStringList& doBanco) const
+{
+    QStringList l;
+    l.reserve(doBanco.size() + 1);
+    l << QString();
+    for (int i = 0; i < doBanco.size(); ++i) {
+        const ColunaGrade* g = i < m_d.colunasGrade.size() ? &m_d.colunasGrade.at(i) : nullptr;
+        if (g && g->exibe)
+            l << g->exibe(doBanco.at(i));
+        else if (g && !g->formato.isEmpty())
+            l << Funcoes::Formata(doBanco.at(i), g->formato);
+        else
+            l << doBanco.at(i);
     }
-    return linhas;
+    return l;
+}
+
+void ExecutorBloco::preencheGrade()
+{
+    m_marca = ComandoSqlite::marcaEscrita();
+    m_paiLido = m_pai();
+    m_lidas = linhasDoBanco();
+    QList<QStringList> linhas;
+    linhas.reserve(m_lidas.size());
+    for (const QStringList& l : std::as_const(m_lidas))
+        linhas << linhaDaGrade(l);
+    m_grade->setRows(linhas);
+    m_grade->clearHighlight();
+}
+
+bool ExecutorBloco::gradeEmDia() const
+{
+    return !m_grade->fillPending() && m_marca.alteracoes >= 0 && m_marca == ComandoSqlite::marcaEscrita()
+           && m_paiLido == m_pai();
 }
 
 void ExecutorBloco::carrega()
 {
-    m_grade->setRows(linhasDaGrade());
     semEscolha();
+    if (!gradeEmDia()) {
+        m_grade->fillWhenNeeded([this] { preencheGrade(); });
+        return;
+    }
+    m_grade->makeFirstCurrent();
+    m_grade->clearHighlight();
+    m_grade->scrollToTop();
 }
 
 // The first row is current, for the cursor keys, but nothing is chosen: with Alterar and Excluir off no row may
@@ -232,29 +262,37 @@ void ExecutorBloco::semEscolha()
     m_botoes->habilitaSelecao(false);
 }
 
-// After a write the rows are read again, but only those that differ from the grid's are put in, replaced or
-// taken out, each at its place: the grid ends as a load leaves it, without filling thousands of rows again.
+// After a write the rows are read again, but only those that differ from the rows read before are formatted and
+// put in, replaced or taken out, each at its place: the grid ends as a load leaves it, without filling thousands
+// of rows again. A grid whose fill is still pending reads the rows when it fills.
 void ExecutorBloco::atualizaGrade()
 {
-    const QList<QStringList> novas = linhasDaGrade();
-    const int antigas = m_grade->dataRowCount();
+    if (m_grade->fillPending()) {
+        semEscolha();
+        return;
+    }
+    const MarcaEscrita marca = ComandoSqlite::marcaEscrita();
+    const QList<QStringList> novas = linhasDoBanco();
+    const int antigas = int(m_lidas.size());
     const int total = int(novas.size());
     int inicio = 0;
-    while (inicio < antigas && inicio < total && m_grade->rowValues(inicio) == novas.at(inicio))
+    while (inicio < antigas && inicio < total && m_lidas.at(inicio) == novas.at(inicio))
         ++inicio;
     int fim = 0;
-    while (fim < antigas - inicio && fim < total - inicio
-           && m_grade->rowValues(antigas - 1 - fim) == novas.at(total - 1 - fim))
+    while (fim < antigas - inicio && fim < total - inicio && m_lidas.at(antigas - 1 - fim) == novas.at(total - 1 - fim))
         ++fim;
     const int saem = antigas - inicio - fim;
     const int entram = total - inicio - fim;
     const int trocadas = qMin(saem, entram);
     for (int i = 0; i < trocadas; ++i)
-        m_grade->replaceRow(inicio + i, novas.at(inicio + i));
+        m_grade->replaceRow(inicio + i, linhaDaGrade(novas.at(inicio + i)));
     for (int i = trocadas; i < saem; ++i)
         m_grade->removeRowAt(inicio + trocadas);
     for (int i = trocadas; i < entram; ++i)
-        m_grade->insertRowAt(inicio + i, novas.at(inicio + i));
+        m_grade->insertRowAt(inicio + i, linhaDaGrade(novas.at(inicio + i)));
+    m_lidas = novas;
+    m_marca = marca;
+    m_paiLido = m_pai();
     m_grade->makeFirstCurrent();
     semEscolha();
 }

@@ -14,6 +14,7 @@
 //
 // Every write sets AlteracaoPendente; nothing here commits: all of it works in the editor's open transaction.
 #include "core/store/BlocoEntrada.h"
+#include "core/store/ComandoSqlite.h"
 #include "gui/widgets/DecimalField.h"
 
 #include <QComboBox>
@@ -166,7 +167,10 @@ public:
     // The key of the chosen row, in the order of the key columns; empty when none is chosen.
     QVariantList chaveSelecionada() const { return m_chave; }
 
-    // Carrega...: fills the grid and disables Alterar, Excluir and Limpar.
+    // Carrega...: fills the grid and disables Alterar, Excluir and Limpar. The rows are read when the grid is
+    // shown or asked for its rows (a hidden tab's grid costs nothing until then), and not read again when
+    // nothing was written and the parent is the same since they were read: the grid then only comes back to its
+    // first row, as a fill leaves it.
     void carrega();
     // The chosen row is forgotten: no key and no row highlighted. Fields and buttons stay as they are.
     void esqueceEscolha();
@@ -196,8 +200,11 @@ signals:
 private:
     QWidget* criaCampo(const CampoBloco& c, QWidget* pai);
     void escolheLinha(int linha);
-    // The grid's rows as a load shows them (formatted, with the blank first cell).
-    QList<QStringList> linhasDaGrade() const;
+    // The rows as the store gives them, and one of them as the grid shows it (formatted, the blank first cell).
+    QList<QStringList> linhasDoBanco() const;
+    QStringList linhaDaGrade(const QStringList& doBanco) const;
+    void preencheGrade();
+    bool gradeEmDia() const;
     void atualizaGrade();
     void semEscolha();
     void preencheCampo(const CampoBloco& c, const QString& valor, const QString& texto);
@@ -220,4 +227,8 @@ private:
     QuatroBotoes* m_botoes = nullptr;
     QList<QWidget*> m_quadrosAdotados;
     QVariantList m_chave;
+    // The rows the grid shows, as read, with the write mark and the parent they were read at.
+    QList<QStringList> m_lidas;
+    MarcaEscrita m_marca;
+    QVariant m_paiLido;
 };

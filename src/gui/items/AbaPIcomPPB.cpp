@@ -1,5 +1,6 @@
 #include "gui/items/AbaPIcomPPB.h"
 
+#include "core/store/ItensPIcomPPB.h"
 #include "gui/blocks/QuatroBotoes.h"
 #include "gui/items/BlocosPIcomPPB.h"
 #include "gui/items/CabecalhoNota.h"
@@ -91,13 +92,19 @@ void AbaPIcomPPB::mostra(bool dcr)
     m_areaDcre->setVisible(!dcr);
 }
 
+bool AbaPIcomPPB::temItens(const QString& tipo) const
+{
+    return individual() ? ItensPIcomPPB::TemLinhasIndividual(pai().toLongLong(), tipo)
+                        : ItensPIcomPPB::TemLinhasMensal(pai().toString(), tipo);
+}
+
 void AbaPIcomPPB::carrega()
 {
     m_dcr->carrega();
-    const bool temDcr = m_dcr->temLinhas();
+    const bool temDcr = temItens(TipoDCR);
     m_dcre->carrega();
-    const bool temDcre = m_dcre->temLinhas();
-    // Both grids were just loaded: choosing the option only shows one of them.
+    const bool temDcre = temItens(TipoDCRE);
+    // Both grids were just loaded (or will be when shown): choosing the option only shows one of them.
     if (individual())
         mostra(!(temDcre && !temDcr));
     else if (temDcre)

@@ -29,6 +29,8 @@ private:
     // HabilitaControlesDependentes_optDCR... / _optDCRE...: shows the option's frames, hides the other's.
     void escolhe(bool dcr);
     void mostra(bool dcr);
+    // The store has items of this type for the tab's parent (its grid need not be read for that).
+    bool temItens(const QString& tipo) const;
 
     ExecutorBloco* m_dcr = nullptr;
     ExecutorBloco* m_dcre = nullptr;

@@ -57,16 +57,12 @@ ColunaGrade oculta(const QString& coluna)
     return {coluna, coluna, 0, {}};
 }
 
-// The grid's rows from the core's rows, in the order of the columns.
-QList<QStringList> linhas(const QList<QVariantMap>& dados, const QList<ColunaGrade>& colunas)
+// The names of the grid's columns, in which order the core gives the rows.
+QStringList nomes(const QList<ColunaGrade>& colunas)
 {
-    QList<QStringList> r;
-    for (const QVariantMap& m : dados) {
-        QStringList l;
-        for (const ColunaGrade& c : colunas)
-            l << m.value(c.coluna).toString();
-        r << l;
-    }
+    QStringList r;
+    for (const ColunaGrade& c : colunas)
+        r << c.coluna;
     return r;
 }
 
@@ -269,7 +265,7 @@ DescricaoBloco Mensal(const TaxasProduto& x)
     comum(d, x);
     d.regras += regrasDestinoNovo(x);
     d.regras += regrasAlteracao(x);
-    d.linhas = [colunas = d.colunasGrade](const QVariant& pai) { return linhas(LinhasMensais(pai.toString()), colunas); };
+    d.linhas = [colunas = nomes(d.colunasGrade)](const QVariant& pai) { return LinhasMensais(pai.toString(), colunas); };
     d.grava = [x](const ExecutorBloco& b, const QVariant& pai, Operacao op) { gravaMensal(b, pai, op, x); };
     d.apaga = [](const ExecutorBloco& b, const QVariant&) {
         ItensDeclaracao::ExcluiDestino(b.valorEscolhido(t("ID_DEST_PRODUTO")).toLongLong(),
@@ -406,7 +402,7 @@ DescricaoBloco Individual(const ContextoItens& contexto, const TaxasProduto& x)
     comum(d, x);
     d.regras += regrasOutrosItens(contexto.idVrt, x, botaoNcm);
     d.regras << numeroItemLivre(CampoItem, t("NR_ITEM_NF_SAIDA"));
-    d.linhas = [colunas = d.colunasGrade](const QVariant& pai) { return linhas(LinhasNota(pai.toLongLong()), colunas); };
+    d.linhas = [colunas = nomes(d.colunasGrade)](const QVariant& pai) { return LinhasNota(pai.toLongLong(), colunas); };
     d.grava = [x](const ExecutorBloco& b, const QVariant& pai, Operacao op) { gravaIndividual(b, pai, op, x); };
     d.apaga = [](const ExecutorBloco& b, const QVariant&) { ExcluiItemNota(b.valorEscolhido(t("ID_ITEM")).toLongLong()); };
     d.aoEscolher = [x](ExecutorBloco& b) { mostraTaxas(b, x, t("ALIQ_II_DIF_TEC"), t("ALIQ_IPI_DIF_TIPI")); };

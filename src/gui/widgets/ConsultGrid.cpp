@@ -105,8 +105,32 @@ void ConsultGrid::setColumns(const QList<Column>& columns)
     setWordWrap(!m_wrapColumns.isEmpty());
 }
 
+void ConsultGrid::fillWhenNeeded(std::function<void()> fill)
+{
+    m_pendingFill = std::move(fill);
+    if (isVisible())
+        fillNow();
+}
+
+void ConsultGrid::fillNow() const
+{
+    if (!m_pendingFill)
+        return;
+    // Taken out first: the fill sets the rows through the same accessors that call this.
+    const std::function<void()> fill = std::move(const_cast<ConsultGrid*>(this)->m_pendingFill);
+    const_cast<ConsultGrid*>(this)->m_pendingFill = nullptr;
+    fill();
+}
+
+void ConsultGrid::showEvent(QShowEvent* event)
+{
+    fillNow();
+    QTableView::showEvent(event);
+}
+
 void ConsultGrid::clearRows()
 {
+    m_pendingFill = nullptr;
     m_rowChangedSinceLoad = false;
     m_filling = true;
     m_model->setRows({});
@@ -116,6 +140,7 @@ void ConsultGrid::clearRows()
 
 void ConsultGrid::addRow(const QStringList& cells)
 {
+    fillNow();
     m_filling = true;
     m_model->insertAt(rowCount(), cells);
     m_filling = false;
@@ -124,6 +149,7 @@ void ConsultGrid::addRow(const QStringList& cells)
 
 void ConsultGrid::setRows(const QList<QStringList>& rows)
 {
+    m_pendingFill = nullptr;
     m_rowChangedSinceLoad = false;
     m_filling = true;
     setUpdatesEnabled(false);
@@ -137,6 +163,7 @@ void ConsultGrid::setRows(const QList<QStringList>& rows)
 
 void ConsultGrid::insertRowAt(int row, const QStringList& cells)
 {
+    fillNow();
     m_filling = true;
     m_model->insertAt(row, cells);
     m_filling = false;
@@ -145,12 +172,14 @@ void ConsultGrid::insertRowAt(int row, const QStringList& cells)
 
 void ConsultGrid::replaceRow(int row, const QStringList& cells)
 {
+    fillNow();
     m_model->replaceAt(row, cells);
     fitRowHeightsLater();
 }
 
 void ConsultGrid::removeRowAt(int row)
 {
+    fillNow();
     m_filling = true;
     m_model->removeAt(row);
     m_order.clear();
@@ -177,11 +206,13 @@ void ConsultGrid::makeFirstCurrent()
 
 const QStringList& ConsultGrid::rowValues(int row) const
 {
+    fillNow();
     return m_model->row(row);
 }
 
 int ConsultGrid::rowCount() const
 {
+    fillNow();
     return m_model->rowCount();
 }
 
@@ -192,11 +223,13 @@ int ConsultGrid::columnCount() const
 
 int ConsultGrid::currentRow() const
 {
+    fillNow();
     return currentIndex().row();
 }
 
 void ConsultGrid::setCurrentCell(int row, int column)
 {
+    fillNow();
     setCurrentIndex(m_model->index(row, column));
 }
 

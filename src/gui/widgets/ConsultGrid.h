@@ -16,6 +16,7 @@
 #include <QList>
 #include <QStringList>
 #include <QTableView>
+#include <functional>
 
 class ModeloConsulta;
 
@@ -45,6 +46,12 @@ public:
     // first when there is one, highlighted, without choosing it. On a grid of several picks the first row is
     // the one picked, so that what the screen's Ok acts on is what the grid shows.
     void setRows(const QList<QStringList>& rows);
+    // Rows given when they are needed: `fill` (which sets the rows) runs when the grid is next shown, or as soon
+    // as anything asks for its rows, whichever comes first; at once on a grid that is shown. The grids of a tab
+    // the user has not opened thus cost nothing, and still answer as filled. A later call, setRows or clearRows
+    // replaces a fill still pending.
+    void fillWhenNeeded(std::function<void()> fill);
+    bool fillPending() const { return bool(m_pendingFill); }
 
     // One row put in at `row` (the rows after it move down), replaced, or taken out; the current row and the
     // highlight are left to the caller.
@@ -95,11 +102,14 @@ signals:
     void titleClicked(int column);
 
 protected:
+    void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
 private:
+    // Runs the pending fill, if any, before the rows are read or shown.
+    void fillNow() const;
     int widthFor(const Column& column) const;
     void fitRowHeights();
     void fitRowHeightsLater();
@@ -116,4 +126,5 @@ private:
     QList<int> m_order;
     QList<int> m_wrapColumns;
     bool m_fitPending = false;
+    std::function<void()> m_pendingFill;
 };
