@@ -140,6 +140,31 @@ struct Cenario {
         a.sai(nome(Papel::Adicao));
     }
 
+    // An old DI (year 95, body 1234567, sequence 654321), adição 2, item 3.
+    void preencheDIAntiga(const QString& quantidade = QStringLiteral("1"))
+    {
+        clica(Papel::Nao);
+        digita(Papel::Ano, QStringLiteral("95"));
+        digita(Papel::Orgao, QStringLiteral("1234567"));
+        digita(Papel::Sequencial, QStringLiteral("654321"));
+        digita(Papel::Adicao, QStringLiteral("2"));
+        digita(Papel::ItemAdicao, QStringLiteral("3"));
+        digita(Papel::Quantidade, quantidade);
+        a.sai(nome(Papel::Ano));
+    }
+
+    // An electronic DI under the Decreto-Lei 288/67 with its product value (currency 220) and freight (978).
+    void incluiDIComDecreto()
+    {
+        preencheDI();
+        clica(Papel::DecretoLei);
+        digita(Papel::Moeda0, QStringLiteral("220"));
+        digita(Papel::Valor0, QStringLiteral("10"));
+        digita(Papel::Moeda1, QStringLiteral("978"));
+        digita(Papel::Valor1, QStringLiteral("2"));
+        incluir();
+    }
+
     // A complete line of the member in force, without the checks; `n` makes another line of the same kind.
     void preencheValida(int n = 1)
     {

@@ -1,27 +1,21 @@
-// Pictures of the tabs "100% Nacional" and "PI com PPB" for the help page, taken offscreen at 1024×768 from the
-// real screens with sample items. They go to <build>/capturas/ajuda; with VRT_ATUALIZA_AJUDA=1 in the environment
-// they also replace those in help/img.
+// Pictures of the item tabs "100% Nacional", "PI com PPB" and "Produto Estrangeiro" (both pages) of both editors
+// for the help pages, taken offscreen at 1024×768 from the real screens with sample items.
+#include "CapturaTeste.h"
 #include "ItensTeste.h"
-
-#include <QDir>
-#include <QFile>
-#include <QMdiArea>
-#include <QMdiSubWindow>
+#include "ProdutoTeste.h"
 
 using namespace ItensTeste;
+using namespace CapturaTeste;
+using namespace DocumentoTeste;
 
 namespace {
 
-void salva(Ambiente& a, const QString& nome)
+// The foreign-product pages are wider than the editor's first size: the pictures show the window maximized,
+// as a user at 1024×768 would use it.
+void maximiza(Ambiente& a)
 {
+    a.janela.mdiArea()->activeSubWindow()->showMaximized();
     QTest::qWait(50);
-    QVERIFY(a.janela.mdiArea()->activeSubWindow());
-    const QPixmap imagem = a.janela.grab();
-    const QString pasta = QStringLiteral(VRT_BINARY_DIR "/capturas/ajuda");
-    QDir().mkpath(pasta);
-    QVERIFY(imagem.save(pasta + QLatin1Char('/') + nome));
-    if (qEnvironmentVariableIntValue("VRT_ATUALIZA_AJUDA") == 1)
-        QVERIFY(imagem.save(QStringLiteral(VRT_SOURCE_DIR "/help/img/") + nome));
 }
 
 }  // namespace
@@ -34,45 +28,81 @@ private slots:
         Ambiente a;
         a.janela.resize(1024, 768);
         naAba(a, false, 4);
-        a.digita(QStringLiteral("mskNumNCM100"), Ncm1);
-        a.digita(QStringLiteral("txtCodProd100N"), QStringLiteral("P001"));
-        a.digita(QStringLiteral("msk100N(2)"), QStringLiteral("10"));
-        a.escolhe(QStringLiteral("cboUnidade100"), QStringLiteral("UN"));
-        a.digita(QStringLiteral("msk100N(0)"), QStringLiteral("2,5"));
-        a.digita(QStringLiteral("msk100N(1)"), QStringLiteral("1234,56"));
-        a.sai(QStringLiteral("cmdIncluir_tab100Nacional_Mensal"));
-        a.clica(QStringLiteral("cmdIncluir_tab100Nacional_Mensal"));
+        incluiItem(a, NacionalMensal{});
         a.digita(QStringLiteral("mskNumNCM100"), Ncm2);
         a.digita(QStringLiteral("txtCodProd100N"), QStringLiteral("P002"));
         salva(a, QStringLiteral("aba100Nacional_mensal.png"));
         a.vaiParaAba(2);
-        a.clica(QStringLiteral("optDCR_tabPIcomPPB_Mensal"));
-        a.digita(QStringLiteral("mskDCRPIcomPPB"), QStringLiteral("000121999"));
-        a.digita(QStringLiteral("txtCodProdDCRPIcomPPB"), QStringLiteral("Q9"));
-        a.escolhe(QStringLiteral("cboLocalDCR"), QStringLiteral("Estados AC, AM, RO e RR"));
-        a.digita(QStringLiteral("mskPIcomPPB(1)"), QStringLiteral("2,5"));
-        a.digita(QStringLiteral("mskPIcomPPB(2)"), QStringLiteral("40"));
-        a.digita(QStringLiteral("mskPIcomPPB(3)"), QStringLiteral("6"));
-        a.escolhe(QStringLiteral("cboUnidadeDCR"), QStringLiteral("UN"));
-        a.sai(QStringLiteral("cmdIncluir_tabPIcomPPB"));
-        a.clica(QStringLiteral("cmdIncluir_tabPIcomPPB"));
+        incluiItem(a, DcrMensal{QStringLiteral("000121999"), QStringLiteral("Q9")});
         salva(a, QStringLiteral("abaPIcomPPB_mensal.png"));
+        QCOMPARE(a.msgs.textos(), QStringList());
         QCOMPARE(a.msgs.inesperadas, 0);
     }
 
-    // The page exists, shows its pictures, and the first page points to it.
-    void paginaDeAjudaDosItens()
+    void abasDaDeclaracaoIndividual()
     {
-        QFile pagina(QStringLiteral(VRT_SOURCE_DIR "/help/itens.html"));
-        QVERIFY(pagina.open(QIODevice::ReadOnly));
-        const QString html = QString::fromUtf8(pagina.readAll());
-        for (const char* img : {"aba100Nacional_mensal.png", "abaPIcomPPB_mensal.png"}) {
-            QVERIFY2(html.contains(QStringLiteral("img/") + QLatin1String(img)), img);
-            QVERIFY2(QFile::exists(QStringLiteral(VRT_SOURCE_DIR "/help/img/") + QLatin1String(img)), img);
-        }
-        QFile indice(QStringLiteral(VRT_SOURCE_DIR "/help/index.html"));
-        QVERIFY(indice.open(QIODevice::ReadOnly));
-        QVERIFY(QString::fromUtf8(indice.readAll()).contains(QStringLiteral("itens.html")));
+        Ambiente a;
+        a.janela.resize(1024, 768);
+        naAba(a, true, 4);
+        incluiItem(a, NacionalIndividual{});
+        a.digita(QStringLiteral("txt100NacionalIndividual(0)"), QStringLiteral("3"));
+        a.digita(QStringLiteral("msk100NacionalIndividual(0)"), Ncm1);
+        salva(a, QStringLiteral("aba100Nacional_individual.png"));
+        a.vaiParaAba(2);
+        incluiItem(a, DcrIndividual{});
+        salva(a, QStringLiteral("abaPIcomPPB_individual.png"));
+        QCOMPARE(a.msgs.textos(), QStringList());
+        QCOMPARE(a.msgs.inesperadas, 0);
+    }
+
+    void produtoEstrangeiroMensal()
+    {
+        Ambiente a;
+        a.janela.resize(1024, 768);
+        ProdutoTeste::naAbaProduto(a, false);
+        maximiza(a);
+        ProdutoTeste::ProdutoMensal p;
+        p.aliquotaII = QStringLiteral("5");
+        ProdutoTeste::incluiMensal(a, p);
+        p.local = Local2;
+        p.quantidade = QStringLiteral("8");
+        ProdutoTeste::incluiMensal(a, p);
+        salva(a, QStringLiteral("abaProdutoEstrangeiro_mensal.png"));
+        Cenario c(a, false);
+        c.abre(TipoDocumento::DI, 0);
+        c.incluiDIComDecreto();
+        salva(a, QStringLiteral("documentoOrigemDI_mensal.png"));
+        QCOMPARE(a.msgs.textos(), QStringList());
+        QCOMPARE(a.msgs.inesperadas, 0);
+    }
+
+    void produtoEstrangeiroIndividual()
+    {
+        Ambiente a;
+        a.janela.resize(1024, 768);
+        ProdutoTeste::naAbaProduto(a, true);
+        maximiza(a);
+        ProdutoTeste::ProdutoIndividual p;
+        p.aliquotaIPI = QStringLiteral("2");
+        ProdutoTeste::incluiIndividual(a, p);
+        salva(a, QStringLiteral("abaProdutoEstrangeiro_individual.png"));
+        Cenario c(a, true);
+        c.abre();
+        c.incluiDIComDecreto();
+        salva(a, QStringLiteral("documentoOrigemDI_individual.png"));
+        QCOMPARE(a.msgs.textos(), QStringList());
+        QCOMPARE(a.msgs.inesperadas, 0);
+    }
+
+    void paginasDeAjuda()
+    {
+        paginaMostra(QStringLiteral("itens.html"),
+                     {QStringLiteral("aba100Nacional_mensal.png"), QStringLiteral("aba100Nacional_individual.png"),
+                      QStringLiteral("abaPIcomPPB_mensal.png"), QStringLiteral("abaPIcomPPB_individual.png")});
+        paginaMostra(QStringLiteral("produto_estrangeiro.html"),
+                     {QStringLiteral("abaProdutoEstrangeiro_mensal.png"),
+                      QStringLiteral("abaProdutoEstrangeiro_individual.png"),
+                      QStringLiteral("documentoOrigemDI_mensal.png"), QStringLiteral("documentoOrigemDI_individual.png")});
     }
 };
 
