@@ -207,8 +207,10 @@ QList<QVariantMap> LinhasNota(qint64 idNfs)
     return mapas(QStringLiteral(
                      "SELECT I.ID_ITEM, I.NR_ITEM_NF_SAIDA, I.CD_INT_PROD, I.NM_INT_PROD, I.CD_NCM_PROD, "
                      "N.DESCR_NCM_PRODUTO, N.NM_UNID_MED_EST, I.NM_UNID_MED_PROD, P.QT_INT_UNID_NFS, "
-                     "P.VL_INT_UNID_NFS, P.QT_INT_UNID_EST, P.VL_IPI_DESTACADO, J.ALIQ_II_DIF_TEC, J.JUST_II_DIF_TEC, "
-                     "J.ALIQ_IPI_DIF_TIPI, J.JUST_IPI_DIF_TIPI FROM ITEM_NFS I "
+                     "P.VL_INT_UNID_NFS, P.QT_INT_UNID_EST, P.VL_INT_UNID_EST, P.VL_IPI_DESTACADO, F.NR_NF_SAIDA, "
+                     "F.NR_SERIE_NF_SAIDA, J.ALIQ_II_DIF_TEC, J.JUST_II_DIF_TEC, J.ALIQ_IPI_DIF_TIPI, "
+                     "J.JUST_IPI_DIF_TIPI FROM ITEM_NFS I "
+                     "JOIN NOTA_FISCAL_SAIDA F ON F.ID_NFS = I.ID_NFS "
                      "LEFT JOIN ITEM_NFS_PE P ON P.ID_ITEM = I.ID_ITEM "
                      "LEFT JOIN NCM_ITEM N ON N.CD_NCM_PRODUTO = I.CD_NCM_PROD "
                      "LEFT JOIN JUST_DIF_ALIQ_PROD_VRT_IND J ON J.ID_ITEM = I.ID_ITEM "

@@ -402,8 +402,10 @@ QList<ColunaGrade> colunas(const Nomes& n)
 
 QString MostraNumero(const QString& tipo, const QString& digitos)
 {
+    // A DCR number read from a file has lost its leading zeros: it is shown zero-filled to its nine digits.
     if (tipo == TipoDCR)
-        return Funcoes::FormataMascara(digitos, QStringLiteral("@@@@@/@@@@"));
+        return digitos.isEmpty() ? digitos
+                                 : Funcoes::FormataMascara(digitos.rightJustified(9, u'0'), QStringLiteral("@@@@@/@@@@"));
     return Funcoes::FormataMascara(digitos, digitos.size() == 10 ? QStringLiteral("@@@@/@@@@@-@")
                                                                   : QStringLiteral("@@@@/@@@@@"));
 }

@@ -15,7 +15,7 @@ inline const QString CampoItem = QStringLiteral("txtPIcomPPBIndividual(0)");
 
 DescricaoBloco Descricao(bool individual, const QString& tipo);
 
-// A number as its grid and messages show it: DCR "@@@@@/@@@@"; DCR-E "@@@@/@@@@@" or, with ten digits,
+// A number as its grid and messages show it: DCR "00000/0000"; DCR-E "@@@@/@@@@@" or, with ten digits,
 // "@@@@/@@@@@-@".
 QString MostraNumero(const QString& tipo, const QString& digitos);
 

@@ -389,9 +389,11 @@ DescricaoBloco Individual(const ContextoItens& contexto, const TaxasProduto& x)
                       {t("Código do Produto"), t("CD_INT_PROD"), 120, {}},
                       {t("Quantidade"), t("QT_INT_UNID_NFS"), 110, Quantidade},
                       {t("NCM"), t("CD_NCM_PROD"), 80, MascaraNcm}};
-    for (const char* c : {"NM_UNID_MED_PROD", "VL_INT_UNID_NFS", "QT_INT_UNID_EST", "ID_ITEM", "NM_INT_PROD",
-                          "ALIQ_II_DIF_TEC", "ALIQ_IPI_DIF_TIPI", "JUST_II_DIF_TEC", "JUST_IPI_DIF_TIPI",
-                          "VL_IPI_DESTACADO", "DESCR_NCM_PRODUTO", "NM_UNID_MED_EST"})
+    // The NCM's description and statistical unit, after the row's own columns, fill the fields beside the NCM.
+    for (const char* c : {"NM_UNID_MED_PROD", "VL_INT_UNID_NFS", "QT_INT_UNID_EST", "VL_INT_UNID_EST", "ID_ITEM",
+                          "NM_INT_PROD", "NR_NF_SAIDA", "NR_SERIE_NF_SAIDA", "ALIQ_II_DIF_TEC", "ALIQ_IPI_DIF_TIPI",
+                          "JUST_II_DIF_TEC", "JUST_IPI_DIF_TIPI", "VL_IPI_DESTACADO", "DESCR_NCM_PRODUTO",
+                          "NM_UNID_MED_EST"})
         d.colunasGrade << oculta(t(c));
     d.padraoBotoes = t("cmd%1_tabProdutoEstrangeiro");
     d.regras = {vazio(CampoItem, t("O campo item deve ser preenchido."))};

@@ -243,6 +243,29 @@ struct Cenario {
         digitaLinha(l);
     }
 
+    // An old DI (year 95, body 1234567, sequence 654321), adição 2, item 3.
+    void preencheDIAntiga(const QString& quantidade = QStringLiteral("1"))
+    {
+        LinhaDI l;
+        l.numero.clear();
+        l.ano = QStringLiteral("95");
+        l.orgao = QStringLiteral("1234567");
+        l.sequencial = QStringLiteral("654321");
+        l.adicao = QStringLiteral("2");
+        l.item = QStringLiteral("3");
+        l.quantidade = quantidade;
+        digitaLinha(l);
+    }
+
+    // An electronic DI under the Decreto-Lei 288/67 with its product value (currency 220) and freight (978).
+    void incluiDIComDecreto()
+    {
+        LinhaDI l;
+        l.decreto = true;
+        l.blocos = {{QStringLiteral("220"), QStringLiteral("978"), QString()}, {QStringLiteral("10"), QStringLiteral("2"), QString()}};
+        inclui(l);
+    }
+
     // A complete line of the member in force, without the checks; `n` makes another line of the same kind.
     void preencheValida(int n = 1)
     {

@@ -1,6 +1,7 @@
 #pragma once
 // Foreign products typed into the page "Produto" of either editor, as a user types them.
 #include "DocumentoTeste.h"
+#include "ItensTeste.h"
 
 #include "core/store/Cadastros.h"
 #include "gui/widgets/ConsultGrid.h"
@@ -11,14 +12,51 @@ namespace ProdutoTeste {
 
 using namespace EditorTeste;
 
-inline const QString Local1 = QStringLiteral("Estados AC, AM, RO e RR");
-inline const QString Local2 = QString::fromUtf8("Demais Unidades da Federação");
+using ItensTeste::escolheLinha;
+using ItensTeste::Local1;
+using ItensTeste::Local2;
 
 // The products the tests pick; to be stored before an editor opens.
 inline void cadastraProdutos()
 {
     Cadastros::IncluiProduto(QStringLiteral("PROD1"), QStringLiteral("Produto um"));
     Cadastros::IncluiProduto(QStringLiteral("PROD2"), QStringLiteral("Produto dois"));
+}
+
+// The two rate frames of either editor: a rate ticks its check and is typed with its grounds; an empty one
+// leaves the check off.
+inline void digitaTaxas(Ambiente& a, bool individual, const QString& ii, const QString& justII, const QString& ipi,
+                        const QString& justIPI)
+{
+    const QStringList nomes = individual
+        ? QStringList{"chk_AliquotaTEC_tabPE", "mskProdutoEstrangeiroNFS(6)", "txtProdutoEstrangeiroNFS(4)",
+                      "chk_AliquotaTIPI_tabPE", "mskProdutoEstrangeiroNFS(7)", "txtProdutoEstrangeiroNFS(5)"}
+        : QStringList{"chk_Aliquota_tabPE", "mskPE(3)", "txtJustifLegalAliqIIPE",
+                      "chk_Aliquota_tabP", "mskPE(4)", "txtJustifLegalAliqIPIPE"};
+    const QStringList valores{ii, justII, ipi, justIPI};
+    for (int i = 0; i < 2; ++i) {
+        const QString& taxa = valores.at(2 * i);
+        if (a.campo<QCheckBox>(nomes.at(3 * i))->isChecked() != !taxa.isEmpty())
+            a.clica(nomes.at(3 * i));
+        if (taxa.isEmpty())
+            continue;
+        a.digita(nomes.at(3 * i + 1), taxa);
+        a.digita(nomes.at(3 * i + 2), valores.at(2 * i + 1));
+    }
+}
+
+// A new declaration of the kind, general data (or invoice) filled, on the foreign-product tab.
+inline void naAbaProduto(Ambiente& a, bool individual)
+{
+    cadastraProdutos();
+    if (individual) {
+        a.novaIndividual();
+        a.preencheIndividual();
+    } else {
+        a.novaMensal();
+        a.preencheMensal();
+    }
+    a.vaiParaAba(1);
 }
 
 struct ProdutoMensal {
@@ -42,17 +80,7 @@ inline void digitaMensal(Ambiente& a, const ProdutoMensal& p)
     a.digita(QStringLiteral("mskPE(1)"), p.quantidadeEstatistica);
     a.escolhe(QStringLiteral("cboLocalPE"), p.local);
     a.digita(QStringLiteral("mskPE(2)"), p.quantidade);
-    const auto taxa = [&](const char* check, const char* campo, const char* just, const QString& v, const QString& j) {
-        auto* c = a.campo<QCheckBox>(QString::fromUtf8(check));
-        if (c->isChecked() != !v.isEmpty())
-            a.clica(QString::fromUtf8(check));
-        if (!v.isEmpty()) {
-            a.digita(QString::fromUtf8(campo), v);
-            a.digita(QString::fromUtf8(just), j);
-        }
-    };
-    taxa("chk_Aliquota_tabPE", "mskPE(3)", "txtJustifLegalAliqIIPE", p.aliquotaII, p.justificativaII);
-    taxa("chk_Aliquota_tabP", "mskPE(4)", "txtJustifLegalAliqIPIPE", p.aliquotaIPI, p.justificativaIPI);
+    digitaTaxas(a, false, p.aliquotaII, p.justificativaII, p.aliquotaIPI, p.justificativaIPI);
     a.sai(QStringLiteral("mskNumNCMPE"));
 }
 
@@ -87,19 +115,7 @@ inline void digitaIndividual(Ambiente& a, const ProdutoIndividual& p)
     a.digita(QStringLiteral("mskProdutoEstrangeiroNFS(2)"), p.valorUnitario);
     a.digita(QStringLiteral("mskProdutoEstrangeiroNFS(3)"), p.quantidadeEstatistica);
     a.digita(QStringLiteral("mskProdutoEstrangeiroNFS(5)"), p.ipi);
-    const auto taxa = [&](const char* check, const char* campo, const char* just, const QString& v, const QString& j) {
-        auto* c = a.campo<QCheckBox>(QString::fromUtf8(check));
-        if (c->isChecked() != !v.isEmpty())
-            a.clica(QString::fromUtf8(check));
-        if (!v.isEmpty()) {
-            a.digita(QString::fromUtf8(campo), v);
-            a.digita(QString::fromUtf8(just), j);
-        }
-    };
-    taxa("chk_AliquotaTEC_tabPE", "mskProdutoEstrangeiroNFS(6)", "txtProdutoEstrangeiroNFS(4)", p.aliquotaII,
-         p.justificativaII);
-    taxa("chk_AliquotaTIPI_tabPE", "mskProdutoEstrangeiroNFS(7)", "txtProdutoEstrangeiroNFS(5)", p.aliquotaIPI,
-         p.justificativaIPI);
+    digitaTaxas(a, true, p.aliquotaII, p.justificativaII, p.aliquotaIPI, p.justificativaIPI);
     a.sai(QStringLiteral("mskProdutoEstrangeiroNFS(0)"));
 }
 
@@ -107,14 +123,6 @@ inline void incluiIndividual(Ambiente& a, const ProdutoIndividual& p)
 {
     digitaIndividual(a, p);
     a.clica(QStringLiteral("cmdIncluir_tabProdutoEstrangeiro"));
-}
-
-// A row of the page's grid chosen as a click chooses it.
-inline void escolheLinha(Ambiente& a, const QString& grade, int linha)
-{
-    auto* g = a.campo<ConsultGrid>(grade);
-    g->setCurrentCell(linha, 1);
-    emit g->rowChosen(linha);
 }
 
 }  // namespace ProdutoTeste

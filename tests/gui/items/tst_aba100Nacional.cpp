@@ -10,29 +10,6 @@ namespace {
 
 const QString Titulo = QStringLiteral("VRT - Vistoria de Remessa Tributada");
 
-void itemMensal(Ambiente& a, const QString& produto, const QString& ncm = Ncm1)
-{
-    a.digita(QStringLiteral("mskNumNCM100"), ncm);
-    a.digita(QStringLiteral("txtCodProd100N"), produto);
-    a.digita(QStringLiteral("msk100N(2)"), QStringLiteral("10"));
-    a.escolhe(QStringLiteral("cboUnidade100"), QStringLiteral("UN"));
-    a.digita(QStringLiteral("msk100N(0)"), QStringLiteral("2,5"));
-    a.digita(QStringLiteral("msk100N(1)"), QStringLiteral("1234,56"));
-    a.sai(QStringLiteral("cmdIncluir_tab100Nacional_Mensal"));
-}
-
-void itemIndividual(Ambiente& a, const QString& item, const QString& produto)
-{
-    a.digita(QStringLiteral("txt100NacionalIndividual(0)"), item);
-    a.digita(QStringLiteral("msk100NacionalIndividual(0)"), Ncm2);
-    a.digita(QStringLiteral("txtCodProd100N"), produto);
-    a.escolhe(QStringLiteral("cboUnidade100"), QStringLiteral("KG"));
-    a.digita(QStringLiteral("msk100NacionalIndividual(1)"), QStringLiteral("3"));
-    a.digita(QStringLiteral("msk100NacionalIndividual(2)"), QStringLiteral("7,25"));
-    a.digita(QStringLiteral("msk100NacionalIndividual(3)"), QStringLiteral("1,5"));
-    a.sai(QStringLiteral("cmdIncluir_tab100NacionalIndividual"));
-}
-
 }  // namespace
 
 class tst_aba100Nacional : public QObject {
@@ -42,7 +19,7 @@ private slots:
     {
         Ambiente a;
         EditorDeclaracao* e = naAba(a, false, 4);
-        itemMensal(a, QStringLiteral("P001"));
+        digitaItem(a, NacionalMensal{});
         QCOMPARE(a.campo<QLineEdit>(QStringLiteral("txtDescrProd100N"))->text(), QStringLiteral("Produto um"));
         QCOMPARE(a.campo<QLineEdit>(QStringLiteral("txtUnidMedEstatistica"))->text(), UnidadeEst);
         a.clica(QStringLiteral("cmdIncluir_tab100Nacional_Mensal"));
@@ -168,9 +145,9 @@ private slots:
     {
         Ambiente a;
         naAba(a, false, 4);
-        itemMensal(a, QStringLiteral("P001"));
+        digitaItem(a, NacionalMensal{});
         a.clica(QStringLiteral("cmdIncluir_tab100Nacional_Mensal"));
-        itemMensal(a, QStringLiteral("P001"), Ncm2);
+        digitaItem(a, NacionalMensal{QStringLiteral("P001"), QStringLiteral("10"), Ncm2});
         a.msgs.responde(Msg::OK);
         a.clica(QStringLiteral("cmdIncluir_tab100Nacional_Mensal"));
         QCOMPARE(a.msgs.textos(), QStringList{QStringLiteral("Produto já incluído.")});
@@ -194,7 +171,7 @@ private slots:
         BancoTeste::executa(QStringLiteral("INSERT INTO ITEM_NFS (ID_NFS, NR_ITEM_NF_SAIDA, CD_INT_PROD, IND_MOD_INTERNACAO) "
                                            "VALUES (?, '1', 'Q9', '1')"),
                             {e->idNfs()});
-        itemIndividual(a, QStringLiteral("1"), QStringLiteral("P001"));
+        digitaItem(a, NacionalIndividual{QStringLiteral("1"), QStringLiteral("P001")});
         a.msgs.responde(Msg::OK);
         a.clica(QStringLiteral("cmdIncluir_tab100NacionalIndividual"));
         QCOMPARE(a.msgs.textos(), QStringList{QStringLiteral("O número de item informado já foi incluído anteriormente.")});
@@ -227,7 +204,7 @@ private slots:
     {
         Ambiente a;
         naAba(a, false, 4);
-        itemMensal(a, QStringLiteral("P001"));
+        digitaItem(a, NacionalMensal{});
         a.clica(QStringLiteral("cmdIncluir_tab100Nacional_Mensal"));
         escolheLinha(a, QStringLiteral("grdConsulta100NacionalMensal"), 0);
         QCOMPARE(a.campo<QLineEdit>(QStringLiteral("txtCodProd100N"))->text(), QStringLiteral("P001"));
@@ -244,7 +221,7 @@ private slots:
     {
         Ambiente a;
         naAba(a, true, 4);
-        itemIndividual(a, QStringLiteral("1"), QStringLiteral("P001"));
+        digitaItem(a, NacionalIndividual{QStringLiteral("1"), QStringLiteral("P001")});
         a.clica(QStringLiteral("cmdIncluir_tab100NacionalIndividual"));
         escolheLinha(a, QStringLiteral("grdConsultaNotaFiscalSaida_tab100NacionalIndividual"), 0);
         a.msgs.responde(Msg::No);

@@ -8,48 +8,10 @@ using namespace ItensTeste;
 
 namespace {
 
-const QString Local1 = QStringLiteral("Estados AC, AM, RO e RR");
-const QString Local2 = QStringLiteral("Demais Unidades da Federação");
-
-void dcreMensal(Ambiente& a, const QString& numero, const QString& produto, const QString& local)
-{
-    a.clica(QStringLiteral("optDCRE_tabPIcomPPB_Mensal"));
-    a.digita(QStringLiteral("mskDCREPIcomPPB"), numero);
-    a.digita(QStringLiteral("txtCodProdDCREPIcomPPB"), produto);
-    a.escolhe(QStringLiteral("cboLocalDCRE"), local);
-    a.digita(QStringLiteral("mskPIcomPPB(0)"), QStringLiteral("4"));
-    a.sai(QStringLiteral("cmdIncluir_tabPIcomPPB"));
-}
-
-void dcrMensal(Ambiente& a, const QString& numero, const QString& produto, const QString& local)
-{
-    a.clica(QStringLiteral("optDCR_tabPIcomPPB_Mensal"));
-    a.digita(QStringLiteral("mskDCRPIcomPPB"), numero);
-    a.digita(QStringLiteral("txtCodProdDCRPIcomPPB"), produto);
-    a.escolhe(QStringLiteral("cboLocalDCR"), local);
-    a.digita(QStringLiteral("mskPIcomPPB(1)"), QStringLiteral("2,5"));
-    a.digita(QStringLiteral("mskPIcomPPB(2)"), QStringLiteral("40"));
-    a.digita(QStringLiteral("mskPIcomPPB(3)"), QStringLiteral("6"));
-    a.escolhe(QStringLiteral("cboUnidadeDCR"), QStringLiteral("UN"));
-    a.sai(QStringLiteral("cmdIncluir_tabPIcomPPB"));
-}
-
+// DCR and DCR-E lines share the tab's Incluir.
 void incluir(Ambiente& a)
 {
-    a.clica(QStringLiteral("cmdIncluir_tabPIcomPPB"));
-}
-
-void dcrIndividual(Ambiente& a, const QString& item, const QString& numero, const QString& produto)
-{
-    a.clica(QStringLiteral("optDCR_tabPIcomPPB_Individual"));
-    a.digita(QStringLiteral("txtPIcomPPBIndividual(0)"), item);
-    a.digita(QStringLiteral("mskPIcomPPBIndividual(2)"), numero);
-    a.digita(QStringLiteral("txtCodProdDCRPIcomPPB"), produto);
-    a.digita(QStringLiteral("mskPIcomPPBIndividual(3)"), QStringLiteral("6"));
-    a.digita(QStringLiteral("mskPIcomPPBIndividual(4)"), QStringLiteral("2,5"));
-    a.digita(QStringLiteral("mskPIcomPPBIndividual(5)"), QStringLiteral("40"));
-    a.escolhe(QStringLiteral("cboUnidadeDCR"), QStringLiteral("UN"));
-    a.sai(QStringLiteral("cmdIncluir_tabPIcomPPB_Individual"));
+    a.clica(DcrMensal::Incluir);
 }
 
 }  // namespace
@@ -61,9 +23,9 @@ private slots:
     {
         Ambiente a;
         naAba(a, false, 2);
-        dcreMensal(a, QStringLiteral("2005/00001"), QStringLiteral("P001"), Local1);
+        digitaItem(a, DcreMensal{QStringLiteral("2005/00001"), QStringLiteral("P001"), Local1});
         incluir(a);
-        dcreMensal(a, QStringLiteral("2005/00001"), QStringLiteral("P001"), Local2);
+        digitaItem(a, DcreMensal{QStringLiteral("2005/00001"), QStringLiteral("P001"), Local2});
         incluir(a);
         QCOMPARE(a.msgs.caixas.size(), 0);
         QCOMPARE(conta(QStringLiteral("ITEM_VRT_MEN")), 1);
@@ -75,7 +37,7 @@ private slots:
         QCOMPARE(linha(a, QStringLiteral("grdConsultaDCRE_fraPIcomPPBMensal"), 0).mid(2, 5),
                  (QStringList{QStringLiteral("2005/00001"), QStringLiteral("P001"), QStringLiteral("Produto um"), Local1,
                               QStringLiteral("4,00000")}));
-        dcreMensal(a, QStringLiteral("2005/00001"), QStringLiteral("P001"), Local2);
+        digitaItem(a, DcreMensal{QStringLiteral("2005/00001"), QStringLiteral("P001"), Local2});
         a.msgs.responde(Msg::OK);
         incluir(a);
         QCOMPARE(a.msgs.textos(), QStringList{QStringLiteral("Produto já incluído para este local de destino.")});
@@ -86,9 +48,9 @@ private slots:
     {
         Ambiente a;
         naAba(a, false, 2);
-        dcrMensal(a, QStringLiteral("00012/1999"), QStringLiteral("P001"), Local1);
+        digitaItem(a, DcrMensal{QStringLiteral("00012/1999"), QStringLiteral("P001"), Local1});
         incluir(a);
-        dcrMensal(a, QStringLiteral("00012/1999"), QStringLiteral("P001"), Local2);
+        digitaItem(a, DcrMensal{QStringLiteral("00012/1999"), QStringLiteral("P001"), Local2});
         incluir(a);
         QCOMPARE(a.msgs.caixas.size(), 0);
         QCOMPARE(conta(QStringLiteral("DESTINO_ITEM_VRT_MEN"), QStringLiteral("VL_II_UNIT_DOLAR = '2,5000000' AND "
@@ -121,9 +83,9 @@ private slots:
         Ambiente a;
         naAba(a, false, 2);
         if (dcr)
-            dcrMensal(a, numero, QStringLiteral("P001"), Local1);
+            digitaItem(a, DcrMensal{numero, QStringLiteral("P001"), Local1});
         else
-            dcreMensal(a, numero, QStringLiteral("P001"), Local1);
+            digitaItem(a, DcreMensal{numero, QStringLiteral("P001"), Local1});
         a.msgs.responde(Msg::OK);
         incluir(a);
         QCOMPARE(a.msgs.textos(), QStringList{mensagem});
@@ -134,14 +96,14 @@ private slots:
     {
         Ambiente a;
         naAba(a, false, 2);
-        dcrMensal(a, QStringLiteral("00012/1999"), QStringLiteral("P001"), Local1);
+        digitaItem(a, DcrMensal{QStringLiteral("00012/1999"), QStringLiteral("P001"), Local1});
         incluir(a);
-        dcreMensal(a, QStringLiteral("2005/00001"), QStringLiteral("P001"), Local1);
+        digitaItem(a, DcreMensal{QStringLiteral("2005/00001"), QStringLiteral("P001"), Local1});
         a.msgs.responde(Msg::OK);
         incluir(a);
-        dcreMensal(a, QStringLiteral("2005/00001"), QStringLiteral("P002"), Local1);
+        digitaItem(a, DcreMensal{QStringLiteral("2005/00001"), QStringLiteral("P002"), Local1});
         incluir(a);
-        dcrMensal(a, QStringLiteral("00013/1999"), QStringLiteral("P002"), Local1);
+        digitaItem(a, DcrMensal{QStringLiteral("00013/1999"), QStringLiteral("P002"), Local1});
         a.msgs.responde(Msg::OK);
         incluir(a);
         QCOMPARE(a.msgs.textos(), (QStringList{QStringLiteral("o produto P001 já foi relacionado no DCR 00012/1999."),
@@ -153,12 +115,12 @@ private slots:
     {
         Ambiente a;
         naAba(a, false, 2);
-        dcrMensal(a, QStringLiteral("00012/1999"), QStringLiteral("P001"), Local1);
+        digitaItem(a, DcrMensal{QStringLiteral("00012/1999"), QStringLiteral("P001"), Local1});
         incluir(a);
-        dcrMensal(a, QStringLiteral("00012/1999"), QStringLiteral("P002"), Local1);
+        digitaItem(a, DcrMensal{QStringLiteral("00012/1999"), QStringLiteral("P002"), Local1});
         a.msgs.responde(Msg::OK);
         incluir(a);
-        dcrMensal(a, QStringLiteral("00014/1999"), QStringLiteral("P001"), Local2);
+        digitaItem(a, DcrMensal{QStringLiteral("00014/1999"), QStringLiteral("P001"), Local2});
         a.msgs.responde(Msg::OK);
         incluir(a);
         QCOMPARE(a.msgs.textos(), (QStringList{QStringLiteral("Este número do DCR já foi utilizado para o código do produto: P001"),
@@ -178,7 +140,7 @@ private slots:
         a.digita(QStringLiteral("mskPIcomPPB(2)"), QStringLiteral("99,99"));
         a.sai(QStringLiteral("mskPIcomPPB(3)"));
         QCOMPARE(a.msgs.caixas.size(), 1);
-        dcrMensal(a, QStringLiteral("00012/1999"), QStringLiteral("P001"), Local1);
+        digitaItem(a, DcrMensal{QStringLiteral("00012/1999"), QStringLiteral("P001"), Local1});
         a.campo<QLineEdit>(QStringLiteral("mskPIcomPPB(2)"))->clear();
         a.msgs.limpa();
         a.msgs.responde(Msg::OK);
@@ -190,7 +152,7 @@ private slots:
     {
         Ambiente a;
         naAba(a, false, 2);
-        dcreMensal(a, QStringLiteral("2005/00001"), QStringLiteral("P001"), Local1);
+        digitaItem(a, DcreMensal{QStringLiteral("2005/00001"), QStringLiteral("P001"), Local1});
         incluir(a);
         escolheLinha(a, QStringLiteral("grdConsultaDCRE_fraPIcomPPBMensal"), 0);
         QCOMPARE(a.campo<QComboBox>(QStringLiteral("cboLocalDCRE"))->currentText(), Local1);
@@ -223,8 +185,8 @@ private slots:
     {
         Ambiente a;
         naAba(a, true, 2);
-        dcrIndividual(a, QStringLiteral("1"), QStringLiteral("00012/1999"), QStringLiteral("P001"));
-        a.clica(QStringLiteral("cmdIncluir_tabPIcomPPB_Individual"));
+        digitaItem(a, DcrIndividual{QStringLiteral("1"), QStringLiteral("00012/1999"), QStringLiteral("P001")});
+        a.clica(DcrIndividual::Incluir);
         QCOMPARE(a.msgs.caixas.size(), 0);
         QCOMPARE(conta(QStringLiteral("DCR"), QStringLiteral("NR_DCR = '000121999' AND QT_PRODUTO = '6,00000'")), 1);
         a.msgs.responde(Msg::Yes);
@@ -233,12 +195,12 @@ private slots:
         a.novaIndividual();
         preencheNota(a, QStringLiteral("777"));
         a.vaiParaAba(2);
-        dcrIndividual(a, QStringLiteral("1"), QStringLiteral("00012/1999"), QStringLiteral("P002"));
+        digitaItem(a, DcrIndividual{QStringLiteral("1"), QStringLiteral("00012/1999"), QStringLiteral("P002")});
         a.msgs.responde(Msg::OK);
-        a.clica(QStringLiteral("cmdIncluir_tabPIcomPPB_Individual"));
+        a.clica(DcrIndividual::Incluir);
         QCOMPARE(a.msgs.textos().last(), QStringLiteral("DCR já incluído para o produto P001"));
-        dcrIndividual(a, QStringLiteral("1"), QStringLiteral("00012/1999"), QStringLiteral("P001"));
-        a.clica(QStringLiteral("cmdIncluir_tabPIcomPPB_Individual"));
+        digitaItem(a, DcrIndividual{QStringLiteral("1"), QStringLiteral("00012/1999"), QStringLiteral("P001")});
+        a.clica(DcrIndividual::Incluir);
         QCOMPARE(conta(QStringLiteral("DCR")), 2);
     }
 

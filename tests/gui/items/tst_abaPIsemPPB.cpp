@@ -12,8 +12,6 @@ using namespace ItensTeste;
 
 namespace {
 
-const QString Local1 = QStringLiteral("Estados AC, AM, RO e RR");
-const QString Local2 = QStringLiteral("Demais Unidades da Federação");
 const QString GradeProduto = QStringLiteral("grdConsultaProduto_fraPIsemPPB");
 const QString GradeInsumo = QStringLiteral("grdConsultaInsumo_fraCCI");
 

@@ -1,16 +1,14 @@
 // Pictures of the DSI and acquisition invoice pages of both editors for their help pages, taken offscreen at
 // 1024×768 from the real screens with a line in each grid. They go to <build>/capturas/ajuda; with
 // VRT_ATUALIZA_AJUDA=1 in the environment they also replace those in help/img.
+#include "CapturaTeste.h"
 #include "DocumentoTeste.h"
 
-#include <QDir>
-#include <QFile>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QScrollArea>
 #include <QScrollBar>
 
 using namespace DocumentoTeste;
+using CapturaTeste::salva;
 
 namespace {
 
@@ -30,18 +28,6 @@ void cabeNaLargura(Cenario& c)
     const int esquerda = c.quadro()->mapTo(rolagem->viewport(), QPoint(0, 0)).x();
     QVERIFY(esquerda >= 0);
     QVERIFY2(esquerda + c.quadro()->width() <= rolagem->viewport()->width(), "o quadro do documento passa da janela");
-}
-
-void salva(Ambiente& a, const QString& nome)
-{
-    QTest::qWait(50);
-    QVERIFY(a.janela.mdiArea()->activeSubWindow());
-    const QPixmap imagem = a.janela.grab();
-    const QString pasta = QStringLiteral(VRT_BINARY_DIR "/capturas/ajuda");
-    QDir().mkpath(pasta);
-    QVERIFY(imagem.save(pasta + QLatin1Char('/') + nome));
-    if (qEnvironmentVariableIntValue("VRT_ATUALIZA_AJUDA") == 1)
-        QVERIFY(imagem.save(QStringLiteral(VRT_SOURCE_DIR "/help/img/") + nome));
 }
 
 }  // namespace
@@ -91,22 +77,13 @@ private slots:
     // The pages exist, show their pictures, and the first page and the foreign product's point to them.
     void paginasDeAjuda()
     {
-        const QStringList imagens{t("documentoDSI_mensal.png"), t("documentoDSI_individual.png"),
-                                  t("documentoNFA_mensal.png"), t("documentoNFA_individual.png")};
-        for (int i = 0; i < imagens.size(); ++i) {
-            const QString pagina = i < 2 ? t("documento_dsi.html") : t("documento_nfa.html");
-            QFile f(QStringLiteral(VRT_SOURCE_DIR "/help/") + pagina);
-            QVERIFY(f.open(QIODevice::ReadOnly));
-            QVERIFY2(QString::fromUtf8(f.readAll()).contains(t("img/") + imagens.at(i)), qPrintable(imagens.at(i)));
-            QVERIFY2(QFile::exists(QStringLiteral(VRT_SOURCE_DIR "/help/img/") + imagens.at(i)), qPrintable(imagens.at(i)));
-        }
-        for (const char* origem : {"index.html", "produto_estrangeiro.html"}) {
-            QFile f(QStringLiteral(VRT_SOURCE_DIR "/help/") + QLatin1String(origem));
-            QVERIFY(f.open(QIODevice::ReadOnly));
-            const QString html = QString::fromUtf8(f.readAll());
-            QVERIFY2(html.contains(t("href=\"documento_dsi.html\"")), origem);
-            QVERIFY2(html.contains(t("href=\"documento_nfa.html\"")), origem);
-        }
+        CapturaTeste::paginaMostra(t("documento_dsi.html"), {t("documentoDSI_mensal.png"), t("documentoDSI_individual.png")});
+        CapturaTeste::paginaMostra(t("documento_nfa.html"), {t("documentoNFA_mensal.png"), t("documentoNFA_individual.png")});
+        QFile f(QStringLiteral(VRT_SOURCE_DIR "/help/produto_estrangeiro.html"));
+        QVERIFY(f.open(QIODevice::ReadOnly));
+        const QString html = QString::fromUtf8(f.readAll());
+        QVERIFY(html.contains(t("href=\"documento_dsi.html\"")));
+        QVERIFY(html.contains(t("href=\"documento_nfa.html\"")));
     }
 };
 

@@ -1,29 +1,16 @@
 // Pictures of the three pages of the tab "PI sem PPB" for the help page, taken offscreen at 1024×768 from the real
 // screens with sample products and inputs. They go to <build>/capturas/ajuda; with VRT_ATUALIZA_AJUDA=1 in the
 // environment they also replace those in help/img.
+#include "CapturaTeste.h"
 #include "ItensTeste.h"
 
 #include <QCheckBox>
-#include <QDir>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QTabWidget>
 
 using namespace ItensTeste;
+using CapturaTeste::salva;
 
 namespace {
-
-void salva(Ambiente& a, const QString& nome)
-{
-    QTest::qWait(50);
-    QVERIFY(a.janela.mdiArea()->activeSubWindow());
-    const QPixmap imagem = a.janela.grab();
-    const QString pasta = QStringLiteral(VRT_BINARY_DIR "/capturas/ajuda");
-    QDir().mkpath(pasta);
-    QVERIFY(imagem.save(pasta + QLatin1Char('/') + nome));
-    if (qEnvironmentVariableIntValue("VRT_ATUALIZA_AJUDA") == 1)
-        QVERIFY(imagem.save(QStringLiteral(VRT_SOURCE_DIR "/help/img/") + nome));
-}
 
 void produto(Ambiente& a, const QString& codigo, const QString& local, const QString& qt)
 {

@@ -1,11 +1,8 @@
 // A monthly declaration with an item of each of the four modalities, typed into the editor's tabs as a user types
 // them, is written for transmission byte for byte as the golden file composed by hand from the record tables.
-#include "ArquivoTeste.h"
-#include "CenariosGravacao.h"
 #include "ItensTeste.h"
 #include "ProdutoTeste.h"
-
-#include "core/file/writing/GravaVrt.h"
+#include "VoltaArquivoTeste.h"
 
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -19,26 +16,10 @@ QString t(const char* s)
     return QString::fromUtf8(s);
 }
 
-const QString Local1 = t("Estados AC, AM, RO e RR");
-
 void produtoEstrangeiro(Ambiente& a)
 {
     Cadastros::IncluiProduto(t("PROD1"), t("Produto um"));
     ProdutoTeste::incluiMensal(a, ProdutoTeste::ProdutoMensal{});
-}
-
-void dcr(Ambiente& a)
-{
-    a.clica(t("optDCR_tabPIcomPPB_Mensal"));
-    a.digita(t("mskDCRPIcomPPB"), t("00012/1999"));
-    a.digita(t("txtCodProdDCRPIcomPPB"), t("P002"));
-    a.escolhe(t("cboLocalDCR"), Local1);
-    a.digita(t("mskPIcomPPB(1)"), t("2,5"));
-    a.digita(t("mskPIcomPPB(2)"), t("40"));
-    a.digita(t("mskPIcomPPB(3)"), t("6"));
-    a.escolhe(t("cboUnidadeDCR"), t("UN"));
-    a.sai(t("cmdIncluir_tabPIcomPPB"));
-    a.clica(t("cmdIncluir_tabPIcomPPB"));
 }
 
 void semPPB(Ambiente& a)
@@ -61,18 +42,6 @@ void semPPB(Ambiente& a)
     a.clica(t("cmdIncluirInsumo"));
 }
 
-void nacional(Ambiente& a)
-{
-    a.digita(t("mskNumNCM100"), Ncm1);
-    a.digita(t("txtCodProd100N"), t("P001"));
-    a.digita(t("msk100N(2)"), t("10"));
-    a.escolhe(t("cboUnidade100"), t("UN"));
-    a.digita(t("msk100N(0)"), t("2,5"));
-    a.digita(t("msk100N(1)"), t("1234,56"));
-    a.sai(t("cmdIncluir_tab100Nacional_Mensal"));
-    a.clica(t("cmdIncluir_tab100Nacional_Mensal"));
-}
-
 }  // namespace
 
 class tst_declaracaoTelas : public QObject {
@@ -85,21 +54,17 @@ private slots:
         EditorDeclaracao* e = naAba(a, false, 1);
         produtoEstrangeiro(a);
         a.vaiParaAba(2);
-        dcr(a);
+        incluiItem(a, DcrMensal{});
         a.vaiParaAba(3);
         semPPB(a);
         a.vaiParaAba(4);
-        nacional(a);
+        incluiItem(a, NacionalMensal{});
         QCOMPARE(a.msgs.textos(), QStringList());
         const QString id = e->idVrt();
         a.salvar();
         a.fechar();
         QVERIFY(!a.editor());
-        MensagensRoteiro msgs;
-        msgs.responde(Msg::OK);
-        const ResultadoGravacao r = GravaVrt({id}, pasta.path(), ModoGravacao::Transmissao);
-        QCOMPARE(r.arquivos.size(), 1);
-        QVERIFY(CenariosGravacao::mesmosBytes(CenariosGravacao::conteudo(r.arquivos.first()),
+        QVERIFY(CenariosGravacao::mesmosBytes(VoltaArquivo::escreve(id, pasta.path()),
                                               CenariosGravacao::esperado(t("mensal_telas.txt"))));
         QCOMPARE(a.msgs.inesperadas, 0);
     }

@@ -333,14 +333,7 @@ private slots:
         QFETCH(bool, individual);
         Ambiente a;
         Cenario c(a, individual, TipoDocumento::DI);
-        c.clica(Papel::Nao);
-        c.digita(Papel::Ano, t("95"));
-        c.digita(Papel::Orgao, t("1234567"));
-        c.digita(Papel::Sequencial, t("654321"));
-        c.digita(Papel::Adicao, t("2"));
-        c.digita(Papel::ItemAdicao, t("3"));
-        c.digita(Papel::Quantidade, t("1"));
-        a.sai(c.nome(Papel::Ano));
+        c.preencheDIAntiga();
         c.incluir();
         QCOMPARE(a.msgs.textos(), QStringList());
         QCOMPARE(valorDe(c.tabela(), t("NR_DI || '|' || NR_DI_ANTIGA")), t("|951234567654321"));
@@ -352,14 +345,7 @@ private slots:
         QCOMPARE(c.texto(Papel::Sequencial), t("654321"));
         // The same old DI again is the same line.
         c.quadro()->limpa();
-        c.clica(Papel::Nao);
-        c.digita(Papel::Ano, t("95"));
-        c.digita(Papel::Orgao, t("1234567"));
-        c.digita(Papel::Sequencial, t("654321"));
-        c.digita(Papel::Adicao, t("2"));
-        c.digita(Papel::ItemAdicao, t("3"));
-        c.digita(Papel::Quantidade, t("1"));
-        a.sai(c.nome(Papel::Ano));
+        c.preencheDIAntiga();
         a.msgs.responde(Msg::OK);
         c.incluir();
         QCOMPARE(a.msgs.textos(), QStringList{individual ? t("DI já incluída.")

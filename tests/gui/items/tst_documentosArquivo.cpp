@@ -231,9 +231,9 @@ private slots:
         confereDocumentos(arquivo, valoresDIComDecreto(), d2("321", "5"));
 
         Ambiente b;
-        QVERIFY(importa(arquivo, pasta.path()));
-        abrePeloEscolhedor(b);
-        QVERIFY(b.editor());
+        reabre(b, arquivo, pasta.path());
+        if (QTest::currentTestFailed())
+            return;
         b.vaiParaAba(1);
         Cenario d(b, false);
         const QString local2 = Local2;
@@ -290,9 +290,9 @@ private slots:
         confereDocumentos(arquivo, valoresDIComDecreto(), zeros(15));
 
         Ambiente b;
-        QVERIFY(importa(arquivo, pasta.path()));
-        abrePeloEscolhedor(b);
-        QVERIFY(b.editor());
+        reabre(b, arquivo, pasta.path());
+        if (QTest::currentTestFailed())
+            return;
         b.vaiParaAba(1);
         Cenario d(b, true);
         QList<QList<QStringList>> esperadas{

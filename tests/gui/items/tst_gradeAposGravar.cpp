@@ -8,18 +8,6 @@ using namespace ItensTeste;
 
 namespace {
 
-const QString Local1 = QStringLiteral("Estados AC, AM, RO e RR");
-const QString Local2 = QStringLiteral("Demais Unidades da Federação");
-
-QList<QStringList> linhas(Ambiente& a, const QString& grade)
-{
-    auto* g = a.campo<ConsultGrid>(grade);
-    QList<QStringList> l;
-    for (int i = 0; i < g->dataRowCount(); ++i)
-        l << g->rowTexts(i);
-    return l;
-}
-
 // The grid as the write left it equals the grid filled again from the database.
 void confereComCarga(Ambiente& a, EditorDeclaracao* e, const QString& grade)
 {
@@ -43,53 +31,12 @@ QStringList coluna(Ambiente& a, const QString& grade, int c)
     return v;
 }
 
-void nacionalMensal(Ambiente& a, const QString& produto, const QString& quantidade)
+// A line typed without clicking its option again (a click would fill the grid afresh).
+template <class Linha>
+Linha semOpcao(Linha l)
 {
-    a.digita(QStringLiteral("mskNumNCM100"), Ncm1);
-    a.digita(QStringLiteral("txtCodProd100N"), produto);
-    a.digita(QStringLiteral("msk100N(2)"), quantidade);
-    a.escolhe(QStringLiteral("cboUnidade100"), QStringLiteral("UN"));
-    a.digita(QStringLiteral("msk100N(0)"), QStringLiteral("2,5"));
-    a.digita(QStringLiteral("msk100N(1)"), QStringLiteral("1234,56"));
-    a.sai(QStringLiteral("cmdIncluir_tab100Nacional_Mensal"));
-    a.clica(QStringLiteral("cmdIncluir_tab100Nacional_Mensal"));
-}
-
-void nacionalIndividual(Ambiente& a, const QString& item, const QString& produto)
-{
-    a.digita(QStringLiteral("txt100NacionalIndividual(0)"), item);
-    a.digita(QStringLiteral("msk100NacionalIndividual(0)"), Ncm2);
-    a.digita(QStringLiteral("txtCodProd100N"), produto);
-    a.escolhe(QStringLiteral("cboUnidade100"), QStringLiteral("KG"));
-    a.digita(QStringLiteral("msk100NacionalIndividual(1)"), QStringLiteral("3"));
-    a.digita(QStringLiteral("msk100NacionalIndividual(2)"), QStringLiteral("7,25"));
-    a.digita(QStringLiteral("msk100NacionalIndividual(3)"), QStringLiteral("1,5"));
-    a.sai(QStringLiteral("cmdIncluir_tab100NacionalIndividual"));
-    a.clica(QStringLiteral("cmdIncluir_tab100NacionalIndividual"));
-}
-
-// A DCR-E line typed without clicking the option again (a click would fill the grid afresh).
-void dcreMensal(Ambiente& a, const QString& numero, const QString& produto, const QString& local)
-{
-    a.digita(QStringLiteral("mskDCREPIcomPPB"), numero);
-    a.digita(QStringLiteral("txtCodProdDCREPIcomPPB"), produto);
-    a.escolhe(QStringLiteral("cboLocalDCRE"), local);
-    a.digita(QStringLiteral("mskPIcomPPB(0)"), QStringLiteral("1234"));
-    a.sai(QStringLiteral("cmdIncluir_tabPIcomPPB"));
-    a.clica(QStringLiteral("cmdIncluir_tabPIcomPPB"));
-}
-
-void dcrIndividual(Ambiente& a, const QString& item, const QString& numero, const QString& produto)
-{
-    a.digita(QStringLiteral("txtPIcomPPBIndividual(0)"), item);
-    a.digita(QStringLiteral("mskPIcomPPBIndividual(2)"), numero);
-    a.digita(QStringLiteral("txtCodProdDCRPIcomPPB"), produto);
-    a.digita(QStringLiteral("mskPIcomPPBIndividual(3)"), QStringLiteral("6"));
-    a.digita(QStringLiteral("mskPIcomPPBIndividual(4)"), QStringLiteral("2,5"));
-    a.digita(QStringLiteral("mskPIcomPPBIndividual(5)"), QStringLiteral("40"));
-    a.escolhe(QStringLiteral("cboUnidadeDCR"), QStringLiteral("UN"));
-    a.sai(QStringLiteral("cmdIncluir_tabPIcomPPB_Individual"));
-    a.clica(QStringLiteral("cmdIncluir_tabPIcomPPB_Individual"));
+    l.opcao = false;
+    return l;
 }
 
 }  // namespace
@@ -102,11 +49,11 @@ private slots:
         Ambiente a;
         EditorDeclaracao* e = naAba(a, false, 4);
         const QString grade = QStringLiteral("grdConsulta100NacionalMensal");
-        ::nacionalMensal(a, QStringLiteral("P001"), QStringLiteral("10"));
+        incluiItem(a, NacionalMensal{QStringLiteral("P001"), QStringLiteral("10")});
         confereComCarga(a, e, grade);
-        ::nacionalMensal(a, QStringLiteral("P002"), QStringLiteral("1234,5"));
+        incluiItem(a, NacionalMensal{QStringLiteral("P002"), QStringLiteral("1234,5")});
         confereComCarga(a, e, grade);
-        ::nacionalMensal(a, QStringLiteral("Q9"), QStringLiteral("3"));
+        incluiItem(a, NacionalMensal{QStringLiteral("Q9"), QStringLiteral("3")});
         confereComCarga(a, e, grade);
         // The quantity shows as its field shows it; choosing the row gives the field the same value.
         QCOMPARE(coluna(a, grade, 4), (QStringList{QStringLiteral("10,00000"), QStringLiteral("1.234,50000"),
@@ -133,9 +80,9 @@ private slots:
         Ambiente a;
         EditorDeclaracao* e = naAba(a, true, 4);
         const QString grade = QStringLiteral("grdConsultaNotaFiscalSaida_tab100NacionalIndividual");
-        ::nacionalIndividual(a, QStringLiteral("3"), QStringLiteral("P001"));
+        incluiItem(a, NacionalIndividual{QStringLiteral("3"), QStringLiteral("P001")});
         confereComCarga(a, e, grade);
-        ::nacionalIndividual(a, QStringLiteral("1"), QStringLiteral("P002"));
+        incluiItem(a, NacionalIndividual{QStringLiteral("1"), QStringLiteral("P002")});
         confereComCarga(a, e, grade);
         escolheLinha(a, grade, 0);
         a.digita(QStringLiteral("msk100NacionalIndividual(1)"), QStringLiteral("2000"));
@@ -157,13 +104,13 @@ private slots:
         EditorDeclaracao* e = naAba(a, false, 2);
         a.clica(QStringLiteral("optDCRE_tabPIcomPPB_Mensal"));
         const QString grade = QStringLiteral("grdConsultaDCRE_fraPIcomPPBMensal");
-        dcreMensal(a, QStringLiteral("2005/00003"), QStringLiteral("P001"), Local1);
+        incluiItem(a, semOpcao(DcreMensal{QStringLiteral("2005/00003"), QStringLiteral("P001"), Local1, QStringLiteral("1234")}));
         confereComCarga(a, e, grade);
-        dcreMensal(a, QStringLiteral("2005/00005"), QStringLiteral("Q9"), Local1);
+        incluiItem(a, semOpcao(DcreMensal{QStringLiteral("2005/00005"), QStringLiteral("Q9"), Local1, QStringLiteral("1234")}));
         confereComCarga(a, e, grade);
-        dcreMensal(a, QStringLiteral("2005/00001"), QStringLiteral("P002"), Local1);
+        incluiItem(a, semOpcao(DcreMensal{QStringLiteral("2005/00001"), QStringLiteral("P002"), Local1, QStringLiteral("1234")}));
         confereComCarga(a, e, grade);
-        dcreMensal(a, QStringLiteral("2005/00003"), QStringLiteral("P001"), Local2);
+        incluiItem(a, semOpcao(DcreMensal{QStringLiteral("2005/00003"), QStringLiteral("P001"), Local2, QStringLiteral("1234")}));
         confereComCarga(a, e, grade);
         QCOMPARE(coluna(a, grade, 2), (QStringList{QStringLiteral("2005/00001"), QStringLiteral("2005/00003"),
                                                    QStringLiteral("2005/00003"), QStringLiteral("2005/00005")}));
@@ -191,9 +138,9 @@ private slots:
         EditorDeclaracao* e = naAba(a, true, 2);
         a.clica(QStringLiteral("optDCR_tabPIcomPPB_Individual"));
         const QString grade = QStringLiteral("grdConsultaDCR");
-        ::dcrIndividual(a, QStringLiteral("2"), QStringLiteral("00012/1999"), QStringLiteral("P001"));
+        incluiItem(a, semOpcao(DcrIndividual{QStringLiteral("2"), QStringLiteral("00012/1999"), QStringLiteral("P001")}));
         confereComCarga(a, e, grade);
-        ::dcrIndividual(a, QStringLiteral("1"), QStringLiteral("00013/1999"), QStringLiteral("P002"));
+        incluiItem(a, semOpcao(DcrIndividual{QStringLiteral("1"), QStringLiteral("00013/1999"), QStringLiteral("P002")}));
         confereComCarga(a, e, grade);
         escolheLinha(a, grade, 1);
         a.digita(QStringLiteral("mskPIcomPPBIndividual(3)"), QStringLiteral("1500"));

@@ -1,14 +1,12 @@
 // Items of "100% Nacional" and "PI com PPB" typed into the editors travel to the file written for transmission:
 // records 21 and 41 carry what was typed, field by field.
-#include "ArquivoTeste.h"
-#include "CenariosGravacao.h"
 #include "ItensTeste.h"
-
-#include "core/file/writing/GravaVrt.h"
+#include "VoltaArquivoTeste.h"
 
 #include <QTemporaryDir>
 
 using namespace ItensTeste;
+using namespace VoltaArquivo;
 
 namespace {
 
@@ -17,117 +15,13 @@ QString t(const char* s)
     return QString::fromUtf8(s);
 }
 
-const QString Local1 = t("Estados AC, AM, RO e RR");
-const QString Local2 = t("Demais Unidades da Federação");
-
-QByteArray escreve(const QString& id, const QString& pasta)
-{
-    MensagensRoteiro msgs;
-    msgs.responde(Msg::OK);
-    const ResultadoGravacao r = GravaVrt({id}, pasta, ModoGravacao::Transmissao);
-    return r.arquivos.isEmpty() ? QByteArray() : CenariosGravacao::conteudo(r.arquivos.first());
-}
-
 // The lines of one record type, keyed by the product code at `posicao`.
-QMap<QString, QString> registros(const QByteArray& arquivo, const char* tipo, int posicao)
+QMap<QString, QString> porProduto(const QByteArray& arquivo, const char* tipo, int posicao)
 {
     QMap<QString, QString> r;
-    for (const QString& l : QString::fromLatin1(arquivo).split(QRegularExpression(t("\r?\n"))))
-        if (l.startsWith(QLatin1String(tipo)))
-            r.insert(l.mid(posicao - 1, 15).trimmed(), l);
+    for (const QString& l : registros(arquivo, QString::fromLatin1(tipo)))
+        r.insert(l.mid(posicao - 1, 15).trimmed(), l);
     return r;
-}
-
-// A field of a line by its first column (counted from 1) and width.
-QString de(const QString& linha, int posicao, int tamanho)
-{
-    return linha.mid(posicao - 1, tamanho);
-}
-
-QString x(const QString& s, int tamanho)
-{
-    return s.leftJustified(tamanho, u' ');
-}
-
-QString zeros(int n)
-{
-    return QString(n, u'0');
-}
-
-// Every row of every grid named, all columns.
-QList<QStringList> grades(Ambiente& a, const QStringList& nomes)
-{
-    QList<QStringList> r;
-    for (const QString& nome : nomes) {
-        auto* g = a.campo<ConsultGrid>(nome);
-        for (int i = 0; i < g->dataRowCount(); ++i)
-            r << (QStringList{nome} + g->rowTexts(i));
-    }
-    return r;
-}
-
-void nacionalMensal(Ambiente& a)
-{
-    a.digita(t("mskNumNCM100"), Ncm1);
-    a.digita(t("txtCodProd100N"), t("P001"));
-    a.digita(t("msk100N(2)"), t("10"));
-    a.escolhe(t("cboUnidade100"), t("UN"));
-    a.digita(t("msk100N(0)"), t("2,5"));
-    a.digita(t("msk100N(1)"), t("1234,56"));
-    a.sai(t("cmdIncluir_tab100Nacional_Mensal"));
-    a.clica(t("cmdIncluir_tab100Nacional_Mensal"));
-}
-
-void dcrMensal(Ambiente& a)
-{
-    a.clica(t("optDCR_tabPIcomPPB_Mensal"));
-    a.digita(t("mskDCRPIcomPPB"), t("00012/1999"));
-    a.digita(t("txtCodProdDCRPIcomPPB"), t("P002"));
-    a.escolhe(t("cboLocalDCR"), Local1);
-    a.digita(t("mskPIcomPPB(1)"), t("2,5"));
-    a.digita(t("mskPIcomPPB(2)"), t("40"));
-    a.digita(t("mskPIcomPPB(3)"), t("6"));
-    a.escolhe(t("cboUnidadeDCR"), t("UN"));
-    a.sai(t("cmdIncluir_tabPIcomPPB"));
-    a.clica(t("cmdIncluir_tabPIcomPPB"));
-}
-
-void dcreMensal(Ambiente& a)
-{
-    a.clica(t("optDCRE_tabPIcomPPB_Mensal"));
-    a.digita(t("mskDCREPIcomPPB"), t("2005/00001"));
-    a.digita(t("txtCodProdDCREPIcomPPB"), t("Q9"));
-    a.escolhe(t("cboLocalDCRE"), Local2);
-    a.digita(t("mskPIcomPPB(0)"), t("4"));
-    a.sai(t("cmdIncluir_tabPIcomPPB"));
-    a.clica(t("cmdIncluir_tabPIcomPPB"));
-}
-
-void nacionalIndividual(Ambiente& a)
-{
-    a.digita(t("txt100NacionalIndividual(0)"), t("2"));
-    a.digita(t("msk100NacionalIndividual(0)"), Ncm2);
-    a.digita(t("txtCodProd100N"), t("P002"));
-    a.escolhe(t("cboUnidade100"), t("KG"));
-    a.digita(t("msk100NacionalIndividual(1)"), t("3"));
-    a.digita(t("msk100NacionalIndividual(2)"), t("7,25"));
-    a.digita(t("msk100NacionalIndividual(3)"), t("1,5"));
-    a.sai(t("cmdIncluir_tab100NacionalIndividual"));
-    a.clica(t("cmdIncluir_tab100NacionalIndividual"));
-}
-
-void dcrIndividual(Ambiente& a)
-{
-    a.clica(t("optDCR_tabPIcomPPB_Individual"));
-    a.digita(t("txtPIcomPPBIndividual(0)"), t("1"));
-    a.digita(t("mskPIcomPPBIndividual(2)"), t("00012/1999"));
-    a.digita(t("txtCodProdDCRPIcomPPB"), t("P001"));
-    a.digita(t("mskPIcomPPBIndividual(3)"), t("6"));
-    a.digita(t("mskPIcomPPBIndividual(4)"), t("2,5"));
-    a.digita(t("mskPIcomPPBIndividual(5)"), t("40"));
-    a.escolhe(t("cboUnidadeDCR"), t("UN"));
-    a.sai(t("cmdIncluir_tabPIcomPPB_Individual"));
-    a.clica(t("cmdIncluir_tabPIcomPPB_Individual"));
 }
 
 const QStringList GradesMensal{t("grdConsulta100NacionalMensal"), t("grdConsultaDCR_fraPIcomPPBMensal"),
@@ -141,25 +35,29 @@ class tst_itensArquivo : public QObject {
 private slots:
     void mensalComItensNacionalEPPBNoArquivoEDeVolta()
     {
-        Ambiente a;
         QTemporaryDir pasta;
-        EditorDeclaracao* e = naAba(a, false, 4);
-        nacionalMensal(a);
-        a.vaiParaAba(2);
-        dcrMensal(a);
-        dcreMensal(a);
-        QCOMPARE(a.msgs.caixas.size(), 0);
-        const QList<QStringList> antes = grades(a, GradesMensal);
-        QCOMPARE(antes.size(), 3);
-        const QString id = e->idVrt();
-        a.salvar();
-        a.fechar();
-        QVERIFY(!a.editor());
-        QCOMPARE(a.msgs.inesperadas, 0);
-        const QByteArray arquivo = escreve(id, pasta.path());
+        QList<QStringList> antes;
+        QByteArray arquivo;
+        {
+            Ambiente a;
+            EditorDeclaracao* e = naAba(a, false, 4);
+            incluiItem(a, NacionalMensal{});
+            a.vaiParaAba(2);
+            incluiItem(a, DcrMensal{});
+            incluiItem(a, DcreMensal{});
+            QCOMPARE(a.msgs.caixas.size(), 0);
+            antes = grades(a, GradesMensal);
+            QCOMPARE(antes.size(), 3);
+            const QString id = e->idVrt();
+            a.salvar();
+            a.fechar();
+            QVERIFY(!a.editor());
+            QCOMPARE(a.msgs.inesperadas, 0);
+            arquivo = escreve(id, pasta.path());
+        }
         QVERIFY(!arquivo.isEmpty());
 
-        const auto r41 = registros(arquivo, "41", 14);
+        const auto r41 = porProduto(arquivo, "41", 14);
         QCOMPARE(r41.keys(), QStringList{t("P001")});
         const QString n = r41.value(t("P001"));
         QCOMPARE(n.size(), 184);
@@ -173,7 +71,7 @@ private slots:
         QCOMPARE(de(n, 157, 14), t("00000001000000"));    // 10
         QCOMPARE(de(n, 171, 14), t("00000000250000"));    // 2,5
 
-        const auto r21 = registros(arquivo, "21", 17);
+        const auto r21 = porProduto(arquivo, "21", 17);
         QCOMPARE(r21.keys(), (QStringList{t("P002"), t("Q9")}));
         const QString dcr = r21.value(t("P002"));
         QCOMPARE(dcr.size(), 198);
@@ -201,29 +99,49 @@ private slots:
         QCOMPARE(de(dcre, 125, 14), t("00000000400000"));       // 4
         QCOMPARE(de(dcre, 159, 40), zeros(40));
 
+        Ambiente b;
+        reabre(b, arquivo, pasta.path());
+        b.vaiParaAba(4);
+        b.vaiParaAba(2);
+        // As the reader stores them: names with their trailing blanks, zero PIS and COFINS as empty texts.
+        antes[0][4] = x(antes[0][4], 45);
+        for (int i : {1, 2}) {
+            antes[i][5] = x(antes[i][5], 45);
+            antes[i].last() = QString();
+            antes[i][antes[i].size() - 2] = QString();
+        }
+        confereLinhas(grades(b, GradesMensal), antes);
+        // The DCR number, stored without its leading zeros, comes back to its field whole.
+        escolheLinha(b, t("grdConsultaDCR_fraPIcomPPBMensal"), 0);
+        QCOMPARE(b.campo<QLineEdit>(t("mskDCRPIcomPPB"))->text(), t("00012/1999"));
+        QCOMPARE(b.msgs.inesperadas, 0);
     }
 
     void individualComItensNacionalEPPBNoArquivoEDeVolta()
     {
-        Ambiente a;
         QTemporaryDir pasta;
-        EditorDeclaracao* e = naAba(a, true, 2);
-        dcrIndividual(a);
-        a.vaiParaAba(4);
-        nacionalIndividual(a);
-        QCOMPARE(a.msgs.caixas.size(), 0);
-        a.vaiParaAba(2);
-        const QList<QStringList> antes = grades(a, GradesIndividual);
-        QCOMPARE(antes.size(), 2);
-        const QString id = e->idVrt();
-        a.salvar();
-        a.fechar();
-        QVERIFY(!a.editor());
-        QCOMPARE(a.msgs.inesperadas, 0);
-        const QByteArray arquivo = escreve(id, pasta.path());
+        QList<QStringList> antes;
+        QByteArray arquivo;
+        {
+            Ambiente a;
+            EditorDeclaracao* e = naAba(a, true, 2);
+            incluiItem(a, DcrIndividual{});
+            a.vaiParaAba(4);
+            incluiItem(a, NacionalIndividual{});
+            QCOMPARE(a.msgs.caixas.size(), 0);
+            a.vaiParaAba(2);
+            antes = grades(a, GradesIndividual);
+            QCOMPARE(antes.size(), 2);
+            const QString id = e->idVrt();
+            a.salvar();
+            a.fechar();
+            QVERIFY(!a.editor());
+            QCOMPARE(a.msgs.inesperadas, 0);
+            arquivo = escreve(id, pasta.path());
+        }
         QVERIFY(!arquivo.isEmpty());
 
-        const auto r41 = registros(arquivo, "41", 14);
+        const auto r41 = porProduto(arquivo, "41", 14);
         QCOMPARE(r41.keys(), QStringList{t("P002")});
         const QString n = r41.value(t("P002"));
         QCOMPARE(n.size(), 184);
@@ -237,7 +155,7 @@ private slots:
         QCOMPARE(de(n, 122, 20), t("00000000000072500000"));    // 7,25
         QCOMPARE(de(n, 142, 43), zeros(43));
 
-        const auto r21 = registros(arquivo, "21", 17);
+        const auto r21 = porProduto(arquivo, "21", 17);
         QCOMPARE(r21.keys(), QStringList{t("P001")});
         const QString dcr = r21.value(t("P001"));
         QCOMPARE(dcr.size(), 198);
@@ -254,6 +172,25 @@ private slots:
         QCOMPARE(de(dcr, 139, 20), x(t("UN"), 20));
         QCOMPARE(de(dcr, 159, 40), zeros(40));
 
+        Ambiente b;
+        reabre(b, arquivo, pasta.path());
+        b.vaiParaAba(4);
+        b.vaiParaAba(2);
+        // As the reader stores them: item numbers with their leading zeros, names with their trailing blanks,
+        // the invoice's number zero-filled to six and its series blank-filled to five, zero PIS and COFINS as
+        // empty texts.
+        antes[0][2] = t("002");
+        antes[0][11] = x(antes[0][11], 45);
+        antes[0][12] = t("000123");
+        antes[0][13] = t("A1   ");
+        antes[1][3] = t("001");
+        antes[1][6] = x(antes[1][6], 45);
+        antes[1][11] = QString();
+        antes[1][12] = QString();
+        confereLinhas(grades(b, GradesIndividual), antes);
+        escolheLinha(b, t("grdConsultaDCR"), 0);
+        QCOMPARE(b.campo<QLineEdit>(t("mskPIcomPPBIndividual(2)"))->text(), t("00012/1999"));
+        QCOMPARE(b.msgs.inesperadas, 0);
     }
 };
 

@@ -1,45 +1,22 @@
 // Declarations of both types with products without basic process and their inputs made through the screens,
 // written to a file, checked record by record (records 31 to 33, the consolidated quantity of an input at a place
 // included), read back into an empty database and opened again with the same rows.
-#include "ArquivoTeste.h"
-#include "CenariosGravacao.h"
 #include "DocumentoTeste.h"
 #include "ItensTeste.h"
-
-#include "core/file/reading/LeArquivoVrt.h"
-#include "core/file/writing/GravaVrt.h"
+#include "VoltaArquivoTeste.h"
 
 #include <QCheckBox>
-#include <QPushButton>
 #include <QTabWidget>
 #include <QTemporaryDir>
 
 using namespace ItensTeste;
+using namespace VoltaArquivo;
 
 namespace {
 
 QString t(const char* s)
 {
     return QString::fromUtf8(s);
-}
-
-const QString Local1 = t("Estados AC, AM, RO e RR");
-const QString Local2 = t("Demais Unidades da Federação");
-
-QByteArray escreve(const QString& id, const QString& pasta)
-{
-    MensagensRoteiro msgs;
-    msgs.responde(Msg::OK);
-    const ResultadoGravacao r = GravaVrt({id}, pasta, ModoGravacao::Transmissao);
-    return r.arquivos.isEmpty() ? QByteArray() : CenariosGravacao::conteudo(r.arquivos.first());
-}
-
-bool importa(const QByteArray& arquivo, const QString& pasta)
-{
-    ArquivoTeste::grava(pasta + t("/entrada"), arquivo);
-    MensagensRoteiro msgs;
-    msgs.responde(Msg::OK).responde(Msg::OK);
-    return LeArquivoVrtEm(pasta, t("entrada"), ModoLeitura::Importar);
 }
 
 // The records of the item part of the file (types 31 to 36), in their order.
@@ -50,27 +27,6 @@ QStringList registrosInsumos(const QByteArray& arquivo)
         if (l.size() > 2 && l.at(0) == u'3' && l.at(1) >= u'1' && l.at(1) <= u'6')
             r << l;
     return r;
-}
-
-QString de(const QString& linha, int posicao, int tamanho)
-{
-    return linha.mid(posicao - 1, tamanho);
-}
-
-QString x(const QString& s, int tamanho)
-{
-    return s.leftJustified(tamanho, u' ');
-}
-
-QString zeros(int n)
-{
-    return QString(n, u'0');
-}
-
-void abrePeloEscolhedor(Ambiente& a)
-{
-    a.janela.acao(t("mnuDeclaracaoAbrir"))->trigger();
-    QTest::mouseClick(a.janela.findChild<QPushButton*>(t("cmdOk")), Qt::LeftButton);
 }
 
 void cadastraInsumos()

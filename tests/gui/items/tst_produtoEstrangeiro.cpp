@@ -2,6 +2,8 @@
 // keep the destinations of one product (monthly) or the items of one product (individual) in step.
 #include "ProdutoTeste.h"
 
+#include <QHeaderView>
+
 using namespace ProdutoTeste;
 using namespace modVRTPLN;
 
@@ -17,23 +19,27 @@ QString valor(const char* sql, const QVariantList& v = {})
     return BancoTeste::valor(QString::fromUtf8(sql), v).toString();
 }
 
-void abreMensal(Ambiente& a)
-{
-    cadastraProdutos();
-    a.novaMensal();
-    a.preencheMensal();
-    a.vaiParaAba(1);
-}
-
-void abreIndividual(Ambiente& a)
-{
-    cadastraProdutos();
-    a.novaIndividual();
-    a.preencheIndividual();
-    a.vaiParaAba(1);
-}
-
 const QString Grade = QStringLiteral("grdConsultaCodigoControleInterno");
+
+// The titles of a grid's columns after the blank first one: the visible ones, then the hidden ones, which carry
+// the name of the column they hold.
+QStringList titulos(ConsultGrid* g, bool visiveis)
+{
+    QStringList r;
+    for (int i = 1; i < g->columnCount(); ++i)
+        if ((!g->isColumnHidden(i) && g->horizontalHeader()->sectionSize(i) > 0) == visiveis)
+            r << g->titleText(i);
+    return r;
+}
+
+// A row's cell by the title of its column.
+QString celula(ConsultGrid* g, int linha, const QString& titulo)
+{
+    for (int i = 0; i < g->columnCount(); ++i)
+        if (g->titleText(i) == titulo)
+            return g->cellText(linha, i);
+    return QStringLiteral("<sem coluna %1>").arg(titulo);
+}
 
 }  // namespace
 
@@ -43,7 +49,7 @@ private slots:
     void produtoMensalViraItemDestinoEAliquotas()
     {
         Ambiente a;
-        abreMensal(a);
+        naAbaProduto(a, false);
         ProdutoMensal p;
         p.aliquotaII = t("5");
         incluiMensal(a, p);
@@ -65,10 +71,88 @@ private slots:
         QCOMPARE(a.msgs.inesperadas, 0);
     }
 
+    void gradeMensalColunasEFormatos()
+    {
+        Ambiente a;
+        naAbaProduto(a, false);
+        ProdutoMensal p;
+        p.quantidade = t("1234,5");
+        p.aliquotaII = t("5");
+        incluiMensal(a, p);
+        QCOMPARE(a.msgs.textos(), QStringList());
+        auto* g = a.campo<ConsultGrid>(Grade);
+        QCOMPARE(titulos(g, true),
+                 (QStringList{t("Código do produto"), t("Descrição do produto"), t("Local"), t("Quantidade"), t("NCM")}));
+        QCOMPARE(titulos(g, false),
+                 (QStringList{t("ID_ITEM_VRT"), t("ID_DEST_PRODUTO"), t("CD_LOCAL_DESTINO"), t("NM_UNID_MED_PROD"),
+                              t("QT_PROD_UNID_PROD"), t("QT_PROD_UNID_EST"), t("ALIQ_II_DIF_TEC"), t("JUST_II_DIF_TEC"),
+                              t("ALIQ_IPI_DIF_TIPI"), t("JUST_IPI_DIF_TIPI"), t("NM_UNID_MED_EST"),
+                              t("DESCR_NCM_PRODUTO")}));
+        QCOMPARE(g->rowTexts(0).mid(1, 5),
+                 (QStringList{t("PROD1"), t("Produto um"), Local1, t("1.234,50000"), t("8471.30.12")}));
+        QCOMPARE(celula(g, 0, t("CD_LOCAL_DESTINO")), t("1"));
+        QCOMPARE(celula(g, 0, t("ALIQ_II_DIF_TEC")), t("5,00"));
+        QCOMPARE(celula(g, 0, t("JUST_II_DIF_TEC")), t("Ex-tarifario"));
+        QCOMPARE(a.msgs.inesperadas, 0);
+    }
+
+    void gradeIndividualColunasEFormatos()
+    {
+        Ambiente a;
+        naAbaProduto(a, true);
+        ProdutoIndividual p;
+        p.quantidade = t("1234,5");
+        p.aliquotaIPI = t("2");
+        incluiIndividual(a, p);
+        QCOMPARE(a.msgs.textos(), QStringList());
+        auto* g = a.campo<ConsultGrid>(t("grdConsultaNotaFiscalSaida"));
+        QCOMPARE(titulos(g, true), (QStringList{t("Item"), t("Código do Produto"), t("Quantidade"), t("NCM")}));
+        // The row's own columns; the NCM's description and statistical unit after them fill the fields beside
+        // the NCM when a row is chosen.
+        QCOMPARE(titulos(g, false),
+                 (QStringList{t("NM_UNID_MED_PROD"), t("VL_INT_UNID_NFS"), t("QT_INT_UNID_EST"), t("VL_INT_UNID_EST"),
+                              t("ID_ITEM"), t("NM_INT_PROD"), t("NR_NF_SAIDA"), t("NR_SERIE_NF_SAIDA"),
+                              t("ALIQ_II_DIF_TEC"), t("ALIQ_IPI_DIF_TIPI"), t("JUST_II_DIF_TEC"), t("JUST_IPI_DIF_TIPI"),
+                              t("VL_IPI_DESTACADO"), t("DESCR_NCM_PRODUTO"), t("NM_UNID_MED_EST")}));
+        QCOMPARE(g->rowTexts(0).mid(1, 4), (QStringList{t("001"), t("PROD1"), t("1.234,50000"), t("8471.30.12")}));
+        QCOMPARE(celula(g, 0, t("NR_NF_SAIDA")), t("123"));
+        QCOMPARE(celula(g, 0, t("NR_SERIE_NF_SAIDA")), t("A1"));
+        QCOMPARE(celula(g, 0, t("ALIQ_IPI_DIF_TIPI")), t("2,00"));
+        QCOMPARE(a.msgs.inesperadas, 0);
+    }
+
+    // The DI grids show the number through its mask and the quantity with a comma and five decimals; adição and
+    // item as they are stored, with their leading zeros.
+    void gradesDaDIComNumeroEQuantidadeFormatados_data()
+    {
+        QTest::addColumn<bool>("individual");
+        QTest::addColumn<QStringList>("linha");
+        const QString di = DocumentoTeste::numeroDI();
+        const QString mascarado = di.left(2) + u'/' + di.mid(2, 7) + u'-' + di.right(1);
+        QTest::newRow("mensal") << false
+                                << QStringList{t("PROD1"), Local1, mascarado, QString(), t("001"), t("02"),
+                                               t("1.234,50000")};
+        QTest::newRow("individual") << true << QStringList{t("001"), t("PROD1"), mascarado, QString(), t("001"), t("02")};
+    }
+    void gradesDaDIComNumeroEQuantidadeFormatados()
+    {
+        QFETCH(bool, individual);
+        QFETCH(QStringList, linha);
+        Ambiente a;
+        DocumentoTeste::Cenario c(a, individual);
+        c.declaracaoComProduto();
+        c.abre();
+        c.preencheDI(DocumentoTeste::numeroDI(), t("1"), t("2"), t("1234,5"));
+        c.incluir();
+        QCOMPARE(a.msgs.textos(), QStringList());
+        QCOMPARE(c.quadro()->grade->rowTexts(0).mid(1, linha.size()), linha);
+        QCOMPARE(a.msgs.inesperadas, 0);
+    }
+
     void validacaoMensalNaOrdem()
     {
         Ambiente a;
-        abreMensal(a);
+        naAbaProduto(a, false);
         const QStringList esperadas{t("O campo número da NCM deve ser preenchido."),
                                     t("O campo código do produto deve ser selecionado."),
                                     t("O campo unidade de medida comercial deve ser selecionado."),
@@ -108,7 +192,7 @@ private slots:
     void umDestinoMudaUnidadeEAliquotasLivremente()
     {
         Ambiente a;
-        abreMensal(a);
+        naAbaProduto(a, false);
         incluiMensal(a, ProdutoMensal());
         escolheLinha(a, Grade, 0);
         ProdutoMensal p;
@@ -156,7 +240,7 @@ private slots:
         QFETCH(QString, aliquotaIPI);
         QFETCH(QString, mensagem);
         Ambiente a;
-        abreMensal(a);
+        naAbaProduto(a, false);
         ProdutoMensal p;
         p.aliquotaII = t("5");
         incluiMensal(a, p);
@@ -198,7 +282,7 @@ private slots:
         QFETCH(QString, segunda);
         QFETCH(QString, mensagem);
         Ambiente a;
-        abreMensal(a);
+        naAbaProduto(a, false);
         ProdutoMensal p;
         p.aliquotaII = primeira;
         incluiMensal(a, p);
@@ -214,7 +298,7 @@ private slots:
     void destinoPosteriorRepeteUnidadeENcmEUsaOMesmoItem()
     {
         Ambiente a;
-        abreMensal(a);
+        naAbaProduto(a, false);
         incluiMensal(a, ProdutoMensal());
         ProdutoMensal p;
         p.local = Local2;
@@ -249,7 +333,7 @@ private slots:
     void produtoDaLinhaNaoMuda()
     {
         Ambiente a;
-        abreMensal(a);
+        naAbaProduto(a, false);
         incluiMensal(a, ProdutoMensal());
         escolheLinha(a, Grade, 0);
         ProdutoMensal p;
@@ -264,7 +348,7 @@ private slots:
     void excluirUltimoDestinoExcluiOItem()
     {
         Ambiente a;
-        abreMensal(a);
+        naAbaProduto(a, false);
         incluiMensal(a, ProdutoMensal());
         ProdutoMensal p;
         p.local = Local2;
@@ -287,7 +371,7 @@ private slots:
     void itemIndividualViraLinhasDaNota()
     {
         Ambiente a;
-        abreIndividual(a);
+        naAbaProduto(a, true);
         ProdutoIndividual p;
         p.aliquotaIPI = t("2");
         incluiIndividual(a, p);
@@ -309,7 +393,7 @@ private slots:
     void doisItensDaNotaNaoDividemNumero()
     {
         Ambiente a;
-        abreIndividual(a);
+        naAbaProduto(a, true);
         incluiIndividual(a, ProdutoIndividual());
         ProdutoIndividual p;
         p.codigo = t("PROD2");
@@ -329,7 +413,7 @@ private slots:
     void itensDoMesmoProdutoDividemNcmUnidadeEAliquotas()
     {
         Ambiente a;
-        abreIndividual(a);
+        naAbaProduto(a, true);
         ProdutoIndividual p;
         p.aliquotaII = t("5");
         incluiIndividual(a, p);
@@ -361,7 +445,7 @@ private slots:
     void primeiroItemSemAliquotaDeixaOutroTerAliquota()
     {
         Ambiente a;
-        abreIndividual(a);
+        naAbaProduto(a, true);
         incluiIndividual(a, ProdutoIndividual());
         ProdutoIndividual p;
         p.item = t("2");
@@ -376,7 +460,7 @@ private slots:
     void validacaoIndividualNaOrdem()
     {
         Ambiente a;
-        abreIndividual(a);
+        naAbaProduto(a, true);
         const QStringList esperadas{t("O campo item deve ser preenchido."),
                                     t("O campo número da NCM deve ser preenchido."),
                                     t("O campo código do produto deve ser selecionado."),
@@ -411,7 +495,7 @@ private slots:
     void itemIndividualAlteradoEExcluido()
     {
         Ambiente a;
-        abreIndividual(a);
+        naAbaProduto(a, true);
         ProdutoIndividual p;
         p.aliquotaII = t("5");
         incluiIndividual(a, p);

@@ -1,16 +1,13 @@
 // Declarations of both types with foreign products and their DIs made through the screens, written to a file,
 // checked record by record (records 11 and 13), read back and opened again with the same rows.
-#include "ArquivoTeste.h"
-#include "CenariosGravacao.h"
 #include "ProdutoTeste.h"
-
-#include "core/file/reading/LeArquivoVrt.h"
-#include "core/file/writing/GravaVrt.h"
+#include "VoltaArquivoTeste.h"
 
 #include <QTemporaryDir>
 
 using namespace ProdutoTeste;
 using namespace DocumentoTeste;
+using namespace VoltaArquivo;
 using namespace modVRTPLN;
 
 namespace {
@@ -20,53 +17,21 @@ QString t(const char* s)
     return QString::fromUtf8(s);
 }
 
-QByteArray escreve(const QString& id, const QString& pasta)
+// The rows a user sees of the declaration's foreign products: the product grid of the page "Produto", then the
+// DI grid of each destination (or of the item) on the page "Documento de Origem".
+QList<QStringList> linhasDoProduto(Ambiente& a, bool individual)
 {
-    MensagensRoteiro msgs;
-    msgs.responde(Msg::OK);
-    const ResultadoGravacao r = GravaVrt({id}, pasta, ModoGravacao::Transmissao);
-    return r.arquivos.isEmpty() ? QByteArray() : CenariosGravacao::conteudo(r.arquivos.first());
-}
-
-bool importa(const QByteArray& arquivo, const QString& pasta)
-{
-    ArquivoTeste::grava(pasta + t("/entrada"), arquivo);
-    MensagensRoteiro msgs;
-    msgs.responde(Msg::OK).responde(Msg::OK);
-    return LeArquivoVrtEm(pasta, t("entrada"), ModoLeitura::Importar);
-}
-
-QStringList registros(const QByteArray& arquivo, const QString& tipo)
-{
-    QStringList r;
-    for (const QString& l : QString::fromLatin1(arquivo).split(t("\r\n")))
-        if (l.startsWith(tipo))
-            r << l;
+    a.vaiParaAba(1);
+    abaPE(a)->tabProdutoEstrangeiro->setCurrentIndex(0);
+    QList<QStringList> r =
+        grades(a, {individual ? t("grdConsultaNotaFiscalSaida") : t("grdConsultaCodigoControleInterno")});
+    Cenario c(a, individual);
+    for (int destino = 0; destino < (individual ? 1 : 2); ++destino) {
+        c.abre(TipoDocumento::DI, destino);
+        r += grades(a, {c.quadro()->grade->objectName()});
+    }
+    abaPE(a)->tabProdutoEstrangeiro->setCurrentIndex(0);
     return r;
-}
-
-// The field at a position of the layout, counted from 1.
-QString campo(const QString& linha, int posicao, int tamanho)
-{
-    return linha.mid(posicao - 1, tamanho);
-}
-
-void abrePeloEscolhedor(Ambiente& a)
-{
-    a.janela.acao(t("mnuDeclaracaoAbrir"))->trigger();
-    QTest::mouseClick(a.janela.findChild<QPushButton*>(t("cmdOk")), Qt::LeftButton);
-}
-
-void incluiDIEletronica(Ambiente& a, Cenario& c)
-{
-    c.preencheDI();
-    c.clica(Papel::DecretoLei);
-    c.digita(Papel::Moeda0, t("220"));
-    c.digita(Papel::Valor0, t("10"));
-    c.digita(Papel::Moeda1, t("978"));
-    c.digita(Papel::Valor1, t("2"));
-    c.incluir();
-    QCOMPARE(a.msgs.textos(), QStringList());
 }
 
 }  // namespace
@@ -76,81 +41,75 @@ class tst_produtoEstrangeiroArquivo : public QObject {
 private slots:
     void mensalComProdutoEstrangeiroEDIsVoltaDoArquivo()
     {
-        Ambiente a;
         QTemporaryDir pasta;
-        cadastraProdutos();
-        a.novaMensal();
-        a.preencheMensal(t("5"), t("2009"));
-        a.vaiParaAba(1);
-        ProdutoMensal p;
-        p.aliquotaII = t("5");
-        incluiMensal(a, p);
-        p.local = Local2;
-        p.quantidade = t("8");
-        incluiMensal(a, p);
-        Cenario c(a, false);
-        c.abre(TipoDocumento::DI, 0);
-        incluiDIEletronica(a, c);
-        c.abre(TipoDocumento::DI, 1);
-        c.clica(Papel::Nao);
-        c.digita(Papel::Ano, t("95"));
-        c.digita(Papel::Orgao, t("1234567"));
-        c.digita(Papel::Sequencial, t("654321"));
-        c.digita(Papel::Adicao, t("2"));
-        c.digita(Papel::ItemAdicao, t("3"));
-        c.digita(Papel::Quantidade, t("8"));
-        a.sai(c.nome(Papel::Ano));
-        c.incluir();
-        QCOMPARE(a.msgs.textos(), QStringList());
-        const QString id = a.editor()->idVrt();
-        a.msgs.responde(Msg::Yes);
-        a.fechar();
-
-        const QByteArray arquivo = escreve(id, pasta.path());
+        QList<QStringList> antes;
+        QByteArray arquivo;
+        {
+            Ambiente a;
+            cadastraProdutos();
+            a.novaMensal();
+            a.preencheMensal(t("5"), t("2009"));
+            a.vaiParaAba(1);
+            ProdutoMensal p;
+            p.aliquotaII = t("5");
+            incluiMensal(a, p);
+            p.local = Local2;
+            p.quantidade = t("8");
+            incluiMensal(a, p);
+            Cenario c(a, false);
+            c.abre(TipoDocumento::DI, 0);
+            c.incluiDIComDecreto();
+            QCOMPARE(a.msgs.textos(), QStringList());
+            c.abre(TipoDocumento::DI, 1);
+            c.preencheDIAntiga(t("8"));
+            c.incluir();
+            QCOMPARE(a.msgs.textos(), QStringList());
+            const QString id = a.editor()->idVrt();
+            antes = linhasDoProduto(a, false);
+            a.msgs.responde(Msg::Yes);
+            a.fechar();
+            arquivo = escreve(id, pasta.path());
+        }
+        QVERIFY(!arquivo.isEmpty());
         const QStringList r11 = registros(arquivo, t("11"));
         QCOMPARE(r11.size(), 2);
         for (int i = 0; i < 2; ++i) {
             const QString& l = r11.at(i);
-            QCOMPARE(campo(l, 6, 8), t("84713012"));
-            QCOMPARE(campo(l, 14, 15).trimmed(), t("PROD1"));
-            QCOMPARE(campo(l, 29, 1), i == 0 ? t("1") : t("2"));
-            QCOMPARE(campo(l, 30, 45).trimmed(), t("Produto um"));
-            QCOMPARE(campo(l, 75, 253).trimmed(), t("Ex-tarifario"));
-            QCOMPARE(campo(l, 328, 5), t("00500"));
-            QCOMPARE(campo(l, 625, 14), t("00000002000000"));
-            QCOMPARE(campo(l, 674, 14), i == 0 ? t("00000001200000") : t("00000000800000"));
-            QCOMPARE(campo(l, 688, 20).trimmed(), t("UN"));
+            QCOMPARE(de(l, 6, 8), t("84713012"));
+            QCOMPARE(de(l, 14, 15).trimmed(), t("PROD1"));
+            QCOMPARE(de(l, 29, 1), i == 0 ? t("1") : t("2"));
+            QCOMPARE(de(l, 30, 45).trimmed(), t("Produto um"));
+            QCOMPARE(de(l, 75, 253).trimmed(), t("Ex-tarifario"));
+            QCOMPARE(de(l, 328, 5), t("00500"));
+            QCOMPARE(de(l, 625, 14), t("00000002000000"));
+            QCOMPARE(de(l, 674, 14), i == 0 ? t("00000001200000") : t("00000000800000"));
+            QCOMPARE(de(l, 688, 20).trimmed(), t("UN"));
         }
         const QStringList r13 = registros(arquivo, t("13"));
         QCOMPARE(r13.size(), 2);
-        QCOMPARE(campo(r13.at(0), 3, 10), numeroDI());
-        QCOMPARE(campo(r13.at(0), 28, 3), t("001"));
-        QCOMPARE(campo(r13.at(0), 31, 2), t("01"));
-        QCOMPARE(campo(r13.at(0), 33, 2), t("SN"));
-        QCOMPARE(campo(r13.at(0), 35, 14), t("00000000400000"));
-        QCOMPARE(campo(r13.at(0), 49, 20), t("00000000000100000000"));
-        QCOMPARE(campo(r13.at(0), 69, 3), t("220"));
-        QCOMPARE(campo(r13.at(0), 72, 20), t("00000000000020000000"));
-        QCOMPARE(campo(r13.at(0), 92, 3), t("978"));
-        QCOMPARE(campo(r13.at(0), 95, 20), t("00000000000000000000"));
-        QCOMPARE(campo(r13.at(0), 133, 1), t("N"));
-        QCOMPARE(campo(r13.at(1), 13, 15), t("951234567654321"));
-        QCOMPARE(campo(r13.at(1), 28, 5), t("00203"));
-        QCOMPARE(campo(r13.at(1), 33, 2), t("NN"));
-        QCOMPARE(campo(r13.at(1), 35, 14), t("00000000800000"));
+        QCOMPARE(de(r13.at(0), 3, 10), numeroDI());
+        QCOMPARE(de(r13.at(0), 28, 3), t("001"));
+        QCOMPARE(de(r13.at(0), 31, 2), t("01"));
+        QCOMPARE(de(r13.at(0), 33, 2), t("SN"));
+        QCOMPARE(de(r13.at(0), 35, 14), t("00000000400000"));
+        QCOMPARE(de(r13.at(0), 49, 20), t("00000000000100000000"));
+        QCOMPARE(de(r13.at(0), 69, 3), t("220"));
+        QCOMPARE(de(r13.at(0), 72, 20), t("00000000000020000000"));
+        QCOMPARE(de(r13.at(0), 92, 3), t("978"));
+        QCOMPARE(de(r13.at(0), 95, 20), t("00000000000000000000"));
+        QCOMPARE(de(r13.at(0), 133, 1), t("N"));
+        QCOMPARE(de(r13.at(1), 13, 15), t("951234567654321"));
+        QCOMPARE(de(r13.at(1), 28, 5), t("00203"));
+        QCOMPARE(de(r13.at(1), 33, 2), t("NN"));
+        QCOMPARE(de(r13.at(1), 35, 14), t("00000000800000"));
 
-        BancoTeste::executa(t("DELETE FROM VRT"));
-        QVERIFY(importa(arquivo, pasta.path()));
-        abrePeloEscolhedor(a);
-        QVERIFY(a.editor());
-        a.vaiParaAba(1);
-        auto* g = a.campo<ConsultGrid>(t("grdConsultaCodigoControleInterno"));
-        QCOMPARE(g->dataRowCount(), 2);
-        QStringList linha = g->rowTexts(0).mid(1, 5);
-        for (QString& c : linha)
-            c = c.trimmed();
-        QCOMPARE(linha, (QStringList{t("PROD1"), t("Produto um"), Local1, t("12,00000"), t("8471.30.12")}));
-        Cenario d(a, false);
+        Ambiente b;
+        reabre(b, arquivo, pasta.path());
+        // The reader stores the product's name as record 11 carries it, with its trailing blanks.
+        antes[0][3] = x(antes[0][3], 45);
+        antes[1][3] = x(antes[1][3], 45);
+        confereLinhas(linhasDoProduto(b, false), antes);
+        Cenario d(b, false);
         d.abre(TipoDocumento::DI, 0);
         QCOMPARE(d.quadro()->grade->dataRowCount(), 1);
         d.escolheLinha(0);
@@ -159,83 +118,80 @@ private slots:
         QCOMPARE(d.texto(Papel::Moeda1), t("978"));
         d.abre(TipoDocumento::DI, 1);
         QCOMPARE(d.quadro()->grade->cellText(0, 4), t("951234567654321"));
-        a.fechar();
-        QCOMPARE(a.msgs.inesperadas, 0);
+        b.fechar();
+        QCOMPARE(b.msgs.inesperadas, 0);
     }
 
     void individualComProdutoEstrangeiroEDIVoltaDoArquivo()
     {
-        Ambiente a;
         QTemporaryDir pasta;
-        cadastraProdutos();
-        a.novaIndividual();
-        a.preencheIndividual();
-        a.vaiParaAba(1);
-        ProdutoIndividual p;
-        p.aliquotaIPI = t("2");
-        incluiIndividual(a, p);
-        QCOMPARE(a.msgs.textos(), QStringList());
-        Cenario c(a, true);
-        c.abre();
-        c.preencheDI();
-        c.clica(Papel::Suspensao);
-        c.digita(Papel::Moeda0, t("978"));
-        c.digita(Papel::Valor0, t("1,5"));
-        c.incluir();
-        QCOMPARE(a.msgs.textos(), QStringList());
-        const QString id = a.editor()->idVrt();
-        a.msgs.responde(Msg::Yes);
-        a.fechar();
-
-        const QByteArray arquivo = escreve(id, pasta.path());
+        QList<QStringList> antes;
+        QByteArray arquivo;
+        {
+            Ambiente a;
+            naAbaProduto(a, true);
+            ProdutoIndividual p;
+            p.aliquotaIPI = t("2");
+            incluiIndividual(a, p);
+            QCOMPARE(a.msgs.textos(), QStringList());
+            Cenario c(a, true);
+            c.abre();
+            c.preencheDI();
+            c.clica(Papel::Suspensao);
+            c.digita(Papel::Moeda0, t("978"));
+            c.digita(Papel::Valor0, t("1,5"));
+            c.incluir();
+            QCOMPARE(a.msgs.textos(), QStringList());
+            const QString id = a.editor()->idVrt();
+            antes = linhasDoProduto(a, true);
+            a.msgs.responde(Msg::Yes);
+            a.fechar();
+            arquivo = escreve(id, pasta.path());
+        }
+        QVERIFY(!arquivo.isEmpty());
         const QStringList r11 = registros(arquivo, t("11"));
         QCOMPARE(r11.size(), 1);
         const QString& l = r11.first();
-        QCOMPARE(campo(l, 3, 3), t("001"));
-        QCOMPARE(campo(l, 6, 8), t("84713012"));
-        QCOMPARE(campo(l, 14, 15).trimmed(), t("PROD1"));
-        QCOMPARE(campo(l, 30, 45).trimmed(), t("Produto um"));
-        QCOMPARE(campo(l, 333, 253).trimmed(), t("Lei 8387"));
-        QCOMPARE(campo(l, 586, 5), t("00200"));
-        QCOMPARE(campo(l, 591, 20).trimmed(), t("UN"));
-        QCOMPARE(campo(l, 611, 14), t("00000001000000"));
-        QCOMPARE(campo(l, 625, 14), t("00000001000000"));
-        QCOMPARE(campo(l, 639, 20), t("00000000000052500000"));
-        QCOMPARE(campo(l, 659, 15), t("000000000000350"));
+        QCOMPARE(de(l, 3, 3), t("001"));
+        QCOMPARE(de(l, 6, 8), t("84713012"));
+        QCOMPARE(de(l, 14, 15).trimmed(), t("PROD1"));
+        QCOMPARE(de(l, 30, 45).trimmed(), t("Produto um"));
+        QCOMPARE(de(l, 333, 253).trimmed(), t("Lei 8387"));
+        QCOMPARE(de(l, 586, 5), t("00200"));
+        QCOMPARE(de(l, 591, 20).trimmed(), t("UN"));
+        QCOMPARE(de(l, 611, 14), t("00000001000000"));
+        QCOMPARE(de(l, 625, 14), t("00000001000000"));
+        QCOMPARE(de(l, 639, 20), t("00000000000052500000"));
+        QCOMPARE(de(l, 659, 15), t("000000000000350"));
         const QStringList r13 = registros(arquivo, t("13"));
         QCOMPARE(r13.size(), 1);
-        QCOMPARE(campo(r13.first(), 3, 10), numeroDI());
-        QCOMPARE(campo(r13.first(), 28, 5), t("00101"));
-        QCOMPARE(campo(r13.first(), 33, 2), t("NN"));
-        QCOMPARE(campo(r13.first(), 35, 14), t("00000000400000"));
+        QCOMPARE(de(r13.first(), 3, 10), numeroDI());
+        QCOMPARE(de(r13.first(), 28, 5), t("00101"));
+        QCOMPARE(de(r13.first(), 33, 2), t("NN"));
+        QCOMPARE(de(r13.first(), 35, 14), t("00000000400000"));
         // The individual record 13 carries the values only under the Decreto-Lei without obsolescence: a DI with
         // suspension alone keeps its values in the database but writes none.
-        QCOMPARE(campo(r13.first(), 49, 20), t("00000000000000000000"));
-        QCOMPARE(campo(r13.first(), 69, 3), t("000"));
-        QCOMPARE(BancoTeste::valor(t("SELECT CD_MOEDA_NEG || '|' || VL_INS_PROD_UNID_NFS FROM ITEM_IMPORT_288_PE")).toString(),
-                 t("978|1,5000000"));
-        QCOMPARE(campo(r13.first(), 133, 1), t("S"));
+        QCOMPARE(de(r13.first(), 49, 20), t("00000000000000000000"));
+        QCOMPARE(de(r13.first(), 69, 3), t("000"));
+        QCOMPARE(de(r13.first(), 133, 1), t("S"));
 
-        BancoTeste::executa(t("DELETE FROM VRT"));
-        QVERIFY(importa(arquivo, pasta.path()));
-        abrePeloEscolhedor(a);
-        QVERIFY(a.editor());
-        a.vaiParaAba(1);
-        auto* g = a.campo<ConsultGrid>(t("grdConsultaNotaFiscalSaida"));
-        QCOMPARE(g->dataRowCount(), 1);
-        QStringList linha = g->rowTexts(0).mid(1, 4);
-        for (QString& c : linha)
-            c = c.trimmed();
-        QCOMPARE(linha, (QStringList{t("001"), t("PROD1"), t("10,00000"), t("8471.30.12")}));
-        Cenario d(a, true);
+        Ambiente b;
+        reabre(b, arquivo, pasta.path());
+        // The name as record 11 carries it, with its trailing blanks; the invoice's number and series as the
+        // head record carries them, the number zero-filled to six and the series blank-filled to five.
+        antes[0][11] = x(antes[0][11], 45);
+        antes[0][12] = t("000123");
+        antes[0][13] = t("A1   ");
+        confereLinhas(linhasDoProduto(b, true), antes);
+        Cenario d(b, true);
         d.abre();
         QCOMPARE(d.quadro()->grade->dataRowCount(), 1);
         d.escolheLinha(0);
         QVERIFY(d.marcado(Papel::Suspensao));
         // The values the file did not carry do not come back.
         QCOMPARE(d.texto(Papel::Moeda0), QString());
-        a.fechar();
-        QCOMPARE(a.msgs.inesperadas, 0);
+        b.fechar();
+        QCOMPARE(b.msgs.inesperadas, 0);
     }
 };
 
