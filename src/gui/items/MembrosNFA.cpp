@@ -73,7 +73,10 @@ QList<Passo> passos(bool individual)
                 {Teste::Vazio, Papel::Quantidade, t("O campo quantidade comercial deve ser preenchido.")},
                 {Teste::VazioSeAtivo, Papel::ValorUnitario,
                  t("O campo valor unit. na unid. de medida comercial deve ser preenchido.")}};
-    // The quantity's and the values' message has no full stop, the item's has one.
+    // The quantity's and the values' message has no full stop, the item's has one. Between the number's blank and
+    // zero tests the monthly editor refuses a number whose text has 8 or more characters ("Número da NFA inválido").
+    // That test never fires: the field takes six digits and shows them as "000.000", seven characters, and the
+    // column holds six, so it is left out.
     return {{Teste::Vazio, Papel::NumeroNF, t("O campo número da NF de entrada deve ser preenchido.")},
             {Teste::Zero, Papel::NumeroNF, t("Este campo não pode ser zero.")},
             {Teste::Vazio, Papel::Quantidade, t("Este campo não pode ser nulo")},

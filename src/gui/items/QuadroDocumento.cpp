@@ -78,6 +78,8 @@ void QuadroDocumento::adiciona(Papel papel, QWidget* campo, const QString& rotul
     campo->setObjectName(m_m.nomes.value(papel));
     m_campos.insert(papel, campo);
     auto* r = new QLabel(rotulo, area);
+    // A long caption wraps rather than widen its column past the screen.
+    r->setWordWrap(true);
     r->setBuddy(campo);
     m_rotulos.insert(papel, r);
     g->addWidget(r, linha, coluna);
@@ -104,7 +106,7 @@ QWidget* QuadroDocumento::constroiCampos()
         }
         g->addWidget(eletronica, 0, c++, 2, 1);
     }
-    // The fields in a row, an invoice's in two rows of at most six.
+    // The fields in a row, an invoice's in rows of four, so that the page fits a screen of 1024 pixels.
     const QList<Papel> ordem{Papel::Numero, Papel::Ano,    Papel::Orgao,  Papel::Sequencial, Papel::Adicao,
                              Papel::ItemAdicao, Papel::NumeroBem, Papel::NumeroNF, Papel::Serie, Papel::ItemNF,
                              Papel::CFOP,   Papel::Data,   Papel::CNPJ,   Papel::Quantidade, Papel::ValorUnitario};
@@ -126,7 +128,7 @@ QWidget* QuadroDocumento::constroiCampos()
     for (Papel p : ordem) {
         if (!tem(p))
             continue;
-        if (!tem(Papel::Sim) && c == 6) {
+        if (!tem(Papel::Sim) && c == 4) {
             c = 0;
             l += 2;
         }
@@ -168,8 +170,12 @@ QWidget* QuadroDocumento::constroiCampo(Papel p)
         return new MaskedField(QStringLiteral("##/#######-#"), nome);
     case Papel::Data:
         return new MaskedField(QStringLiteral("##/##/####"), nome);
-    case Papel::CNPJ:
-        return new MaskedField(QStringLiteral("##.###.###/####-##"), nome);
+    case Papel::CNPJ: {
+        // Wide enough to show the whole number, which its column would otherwise squeeze.
+        auto* cnpj = new MaskedField(QStringLiteral("##.###.###/####-##"), nome);
+        cnpj->setMinimumWidth(cnpj->fontMetrics().horizontalAdvance(QStringLiteral("00.000.000/0000-000")));
+        return cnpj;
+    }
     case Papel::Serie: {
         auto* serie = new QLineEdit;
         serie->setObjectName(nome);
@@ -214,7 +220,10 @@ QWidget* QuadroDocumento::constroiBloco(int i)
     g->addWidget(new QLabel(QStringLiteral("Moeda"), bloco), 0, 0);
     g->addWidget(cod, 1, 0);
     g->addWidget(botao, 1, 1);
-    g->addWidget(new QLabel(QString::fromUtf8("Valor unitário na medida comercial"), bloco), 0, 2);
+    // The value's long caption wraps, so that three blocks side by side fit a screen of 1024 pixels.
+    auto* rotuloValor = new QLabel(QString::fromUtf8("Valor unitário na medida comercial"), bloco);
+    rotuloValor->setWordWrap(true);
+    g->addWidget(rotuloValor, 0, 2);
     g->addWidget(val, 1, 2);
     DestinosEscolha::moeda().registra(m_m.chavesMoeda.value(i), cod, nullptr, this);
     connect(botao, &QPushButton::clicked, this,

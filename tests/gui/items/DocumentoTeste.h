@@ -13,6 +13,8 @@
 #include <QLabel>
 #include <QRadioButton>
 
+#include <functional>
+
 #include "core/rules/FormatoNumero.h"
 #include "gui/blocks/QuatroBotoes.h"
 
@@ -46,21 +48,114 @@ inline const char* nomeTipo(TipoDocumento t)
     return t == TipoDocumento::DI ? "DI" : t == TipoDocumento::DSI ? "DSI" : "NFA";
 }
 
-// One row per member of the foreign product's document family, named "DI mensal", "NFA individual", ...
-inline void linhasMembros()
+// One row per member of the foreign product's document family, named "DI mensal", "NFA individual", ... With a
+// column, one row per member named in `valores`, with its value in that column.
+template <class T = QString>
+inline void linhasMembros(const char* coluna = nullptr, const QMap<QString, T>& valores = {})
 {
     QTest::addColumn<int>("tipo");
     QTest::addColumn<bool>("individual");
-    for (const MembroDocumento& m : MembrosDocumento())
-        if (m.origem == Origem::Produto)
-            QTest::addRow("%s %s", nomeTipo(m.tipo), m.individual ? "individual" : "mensal")
-                << int(m.tipo) << m.individual;
+    if (coluna)
+        QTest::addColumn<T>(coluna);
+    for (const MembroDocumento& m : MembrosDocumento()) {
+        const QString nome = QString::fromLatin1(nomeTipo(m.tipo)) + (m.individual ? QStringLiteral(" individual")
+                                                                                    : QStringLiteral(" mensal"));
+        if (m.origem != Origem::Produto || (coluna && !valores.contains(nome)))
+            continue;
+        QTestData& linha = QTest::newRow(qPrintable(nome)) << int(m.tipo) << m.individual;
+        if (coluna)
+            linha << valores.value(nome);
+    }
+}
+
+// One row per editor, named "mensal" and "individual".
+inline void editores()
+{
+    QTest::addColumn<bool>("individual");
+    QTest::newRow("mensal") << false;
+    QTest::newRow("individual") << true;
+}
+
+// One row per editor with a value of its own in a column.
+template <class T>
+inline void editoresCom(const char* coluna, const T& mensal, const T& individual)
+{
+    QTest::addColumn<bool>("individual");
+    QTest::addColumn<T>(coluna);
+    QTest::newRow("mensal") << false << mensal;
+    QTest::newRow("individual") << true << individual;
+}
+
+// One row per document kind, named "DI", "DSI" and "NFA".
+inline void tipos()
+{
+    QTest::addColumn<int>("tipo");
+    for (TipoDocumento t : {TipoDocumento::DI, TipoDocumento::DSI, TipoDocumento::NFA})
+        QTest::newRow(nomeTipo(t)) << int(t);
+}
+
+// A query's expression over the columns of a table that holds one row.
+inline QString valorDe(const QString& tabela, const QString& expressao)
+{
+    return BancoTeste::valor(QStringLiteral("SELECT ") + expressao + QStringLiteral(" FROM ") + tabela).toString();
+}
+
+// The kind and the editor of the running row of a table made by linhasMembros (or tipos, editores).
+inline TipoDocumento tipoDaLinha()
+{
+    QFETCH(int, tipo);
+    return static_cast<TipoDocumento>(tipo);
+}
+
+inline bool individualDaLinha()
+{
+    QFETCH(bool, individual);
+    return individual;
 }
 
 inline AbaProdutoEstrangeiro* abaPE(Ambiente& a)
 {
     return qobject_cast<AbaProdutoEstrangeiro*>(a.editor()->abaItens(1));
 }
+
+// Lines of each kind as a user types them. An empty number makes an old (not electronic) DI or DSI from its
+// year, body and sequence; the value blocks (currency and value of the product, freight, insurance) are typed
+// where a text is given, after the boxes are set.
+struct ValoresBlocos {
+    QString moedas[3];
+    QString valores[3];
+};
+
+struct LinhaDI {
+    QString numero = numeroDI();
+    QString ano, orgao, sequencial;
+    QString adicao = QStringLiteral("1");
+    QString item = QStringLiteral("1");
+    QString quantidade = QStringLiteral("4");
+    bool decreto = false, obsolescencia = false, suspensao = false;
+    ValoresBlocos blocos;
+};
+
+struct LinhaDSI {
+    QString numero = numeroDSI();
+    QString ano, orgao, sequencial;
+    QString bem = QStringLiteral("1");
+    QString quantidade = QStringLiteral("4");
+    bool suspensao = false;
+    ValoresBlocos blocos;
+};
+
+struct LinhaNFA {
+    QString numero = QStringLiteral("1234");
+    QString serie = QStringLiteral("A1");
+    QString item = QStringLiteral("1");
+    QString data = QStringLiteral("15012008");
+    QString cfop = QStringLiteral("5102");
+    QString cnpj = CnpjFornecedor;
+    QString quantidade = QStringLiteral("4");
+    bool decreto = false, obsolescencia = false;
+    QString valorUnitario, valorTotal;
+};
 
 struct Cenario {
     Ambiente& a;
@@ -70,6 +165,12 @@ struct Cenario {
     qint64 destinos[2] = {};
 
     Cenario(Ambiente& ambiente, bool ind) : a(ambiente), individual(ind) {}
+    // The page of the kind open on a new declaration with its product.
+    Cenario(Ambiente& ambiente, bool ind, TipoDocumento escolhido) : a(ambiente), individual(ind)
+    {
+        declaracaoComProduto();
+        abre(escolhido);
+    }
 
     PaginaDocumentoOrigem* pagina() const { return abaPE(a)->documentoOrigem; }
     QuadroDocumento* quadro() const { return pagina()->quadro(tipo); }
@@ -97,13 +198,14 @@ struct Cenario {
         destinos[1] = InsereDestino(item, QStringLiteral("2"), QStringLiteral("8,00000"));
     }
 
-    // The page "Documento de Origem" with the product, its first destination (or the item) and the kind chosen.
+    // The page "Documento de Origem" with the kind chosen for the product at a destination, or for an item of the
+    // invoice: the first, or the one after it.
     void abre(TipoDocumento escolhido = TipoDocumento::DI, int destino = 0)
     {
         tipo = escolhido;
         abaPE(a)->tabProdutoEstrangeiro->setCurrentIndex(1);
         if (individual) {
-            a.escolhe(QStringLiteral("cboItem"), QStringLiteral("001"));
+            a.escolhe(QStringLiteral("cboItem"), QStringLiteral("%1").arg(destino + 1, 3, 10, QLatin1Char('0')));
         } else {
             a.escolhe(QStringLiteral("cboDocProdutoPE"), QStringLiteral("PROD1"));
             a.escolhe(QStringLiteral("cboLocalDestinoProduto"),
@@ -133,36 +235,35 @@ struct Cenario {
     void preencheDI(const QString& numero = numeroDI(), const QString& adicao = QStringLiteral("1"),
                     const QString& itemAdicao = QStringLiteral("1"), const QString& quantidade = QStringLiteral("4"))
     {
-        digita(Papel::Numero, numero);
-        digita(Papel::Adicao, adicao);
-        digita(Papel::ItemAdicao, itemAdicao);
-        digita(Papel::Quantidade, quantidade);
-        a.sai(nome(Papel::Adicao));
+        LinhaDI l;
+        l.numero = numero;
+        l.adicao = adicao;
+        l.item = itemAdicao;
+        l.quantidade = quantidade;
+        digitaLinha(l);
     }
 
     // An old DI (year 95, body 1234567, sequence 654321), adição 2, item 3.
     void preencheDIAntiga(const QString& quantidade = QStringLiteral("1"))
     {
-        clica(Papel::Nao);
-        digita(Papel::Ano, QStringLiteral("95"));
-        digita(Papel::Orgao, QStringLiteral("1234567"));
-        digita(Papel::Sequencial, QStringLiteral("654321"));
-        digita(Papel::Adicao, QStringLiteral("2"));
-        digita(Papel::ItemAdicao, QStringLiteral("3"));
-        digita(Papel::Quantidade, quantidade);
-        a.sai(nome(Papel::Ano));
+        LinhaDI l;
+        l.numero.clear();
+        l.ano = QStringLiteral("95");
+        l.orgao = QStringLiteral("1234567");
+        l.sequencial = QStringLiteral("654321");
+        l.adicao = QStringLiteral("2");
+        l.item = QStringLiteral("3");
+        l.quantidade = quantidade;
+        digitaLinha(l);
     }
 
     // An electronic DI under the Decreto-Lei 288/67 with its product value (currency 220) and freight (978).
     void incluiDIComDecreto()
     {
-        preencheDI();
-        clica(Papel::DecretoLei);
-        digita(Papel::Moeda0, QStringLiteral("220"));
-        digita(Papel::Valor0, QStringLiteral("10"));
-        digita(Papel::Moeda1, QStringLiteral("978"));
-        digita(Papel::Valor1, QStringLiteral("2"));
-        incluir();
+        LinhaDI l;
+        l.decreto = true;
+        l.blocos = {{QStringLiteral("220"), QStringLiteral("978"), QString()}, {QStringLiteral("10"), QStringLiteral("2"), QString()}};
+        inclui(l);
     }
 
     // A complete line of the member in force, without the checks; `n` makes another line of the same kind.
@@ -170,30 +271,137 @@ struct Cenario {
     {
         const QString v = QString::number(n);
         if (tipo == TipoDocumento::DI) {
-            preencheDI(numeroDI(), QStringLiteral("1"), v);
-            return;
+            LinhaDI l;
+            l.item = v;
+            digitaLinha(l);
+        } else if (tipo == TipoDocumento::DSI) {
+            LinhaDSI l;
+            l.bem = v;
+            digitaLinha(l);
+        } else {
+            LinhaNFA l;
+            l.item = v;
+            digitaLinha(l);
         }
-        if (tipo == TipoDocumento::DSI) {
-            digita(Papel::Numero, numeroDSI());
-            digita(Papel::NumeroBem, v);
-            digita(Papel::Quantidade, QStringLiteral("4"));
-            a.sai(nome(Papel::NumeroBem));
-            return;
+    }
+
+    // The electronic number, or "Não" and the old number's parts.
+    void digitaNumero(const QString& numero, const QString& ano, const QString& orgao, const QString& sequencial)
+    {
+        if (numero.isEmpty()) {
+            clica(Papel::Nao);
+            digita(Papel::Ano, ano);
+            digita(Papel::Orgao, orgao);
+            digita(Papel::Sequencial, sequencial);
+        } else {
+            digita(Papel::Numero, numero);
         }
-        digita(Papel::NumeroNF, QStringLiteral("1234"));
-        digita(Papel::Serie, QStringLiteral("A1"));
-        digita(Papel::ItemNF, v);
-        digita(Papel::Data, QStringLiteral("15012008"));
-        digita(Papel::CFOP, QStringLiteral("5102"));
-        digita(Papel::CNPJ, CnpjFornecedor);
-        digita(Papel::Quantidade, QStringLiteral("4"));
+    }
+
+    void digitaBlocos(const ValoresBlocos& b)
+    {
+        const Papel moedas[3] = {Papel::Moeda0, Papel::Moeda1, Papel::Moeda2};
+        const Papel valores[3] = {Papel::Valor0, Papel::Valor1, Papel::Valor2};
+        for (int i = 0; i < 3; ++i) {
+            if (!b.moedas[i].isEmpty())
+                digita(moedas[i], b.moedas[i]);
+            if (!b.valores[i].isEmpty())
+                digita(valores[i], b.valores[i]);
+        }
+    }
+
+    void digitaLinha(const LinhaDI& l)
+    {
+        digitaNumero(l.numero, l.ano, l.orgao, l.sequencial);
+        digita(Papel::Adicao, l.adicao);
+        digita(Papel::ItemAdicao, l.item);
+        digita(Papel::Quantidade, l.quantidade);
+        a.sai(nome(Papel::Adicao));
+        for (const auto& [caixa, ligada] : {std::pair{Papel::DecretoLei, l.decreto},
+                                            std::pair{Papel::Obsolescencia, l.obsolescencia},
+                                            std::pair{Papel::Suspensao, l.suspensao}})
+            if (ligada)
+                clica(caixa);
+        digitaBlocos(l.blocos);
+    }
+
+    void digitaLinha(const LinhaDSI& l)
+    {
+        digitaNumero(l.numero, l.ano, l.orgao, l.sequencial);
+        digita(Papel::NumeroBem, l.bem);
+        digita(Papel::Quantidade, l.quantidade);
+        a.sai(nome(Papel::NumeroBem));
+        if (l.suspensao)
+            clica(Papel::Suspensao);
+        digitaBlocos(l.blocos);
+    }
+
+    void digitaLinha(const LinhaNFA& l)
+    {
+        digita(Papel::NumeroNF, l.numero);
+        digita(Papel::Serie, l.serie);
+        digita(Papel::ItemNF, l.item);
+        digita(Papel::Data, l.data);
+        digita(Papel::CFOP, l.cfop);
+        digita(Papel::CNPJ, l.cnpj);
+        digita(Papel::Quantidade, l.quantidade);
         a.sai(nome(Papel::ItemNF));
+        if (l.decreto)
+            clica(Papel::DecretoLei);
+        if (l.obsolescencia)
+            clica(Papel::Obsolescencia);
+        if (!l.valorUnitario.isEmpty())
+            digita(Papel::ValorUnitario, l.valorUnitario);
+        if (!l.valorTotal.isEmpty())
+            digita(Papel::ValorTotal, l.valorTotal);
+    }
+
+    // The line typed and included.
+    template <class Linha>
+    void inclui(const Linha& l)
+    {
+        digitaLinha(l);
+        incluir();
     }
 
     // The part that tells two lines of the member apart in preencheValida.
     Papel parteDaLinha() const
     {
         return tipo == TipoDocumento::DI ? Papel::ItemAdicao : tipo == TipoDocumento::DSI ? Papel::NumeroBem : Papel::ItemNF;
+    }
+
+    // Incluir refused by each validation step in turn: step i shows the boxes of `passos[i]`, each answered, writes
+    // nothing, and is then mended by `corrige[i]`; after the last one Incluir writes the line.
+    void validaNaOrdem(const QList<QStringList>& passos, const QList<std::function<void()>>& corrige)
+    {
+        for (int i = 0; i < passos.size(); ++i) {
+            a.msgs.limpa();
+            for (int n = 0; n < passos.at(i).size(); ++n)
+                a.msgs.responde(Msg::OK);
+            incluir();
+            QCOMPARE(a.msgs.textos(), passos.at(i));
+            QCOMPARE(BancoTeste::conta(tabela()), 0);
+            corrige.at(i)();
+        }
+        a.msgs.limpa();
+        incluir();
+        QCOMPARE(a.msgs.textos(), QStringList());
+        QCOMPARE(BancoTeste::conta(tabela()), 1);
+    }
+
+    // The rows of the frame's grid, in its visible columns.
+    QList<QStringList> linhasVisiveis() const
+    {
+        ConsultGrid* g = quadro()->grade;
+        QList<QStringList> linhas;
+        for (int l = 0; l < g->dataRowCount(); ++l) {
+            QStringList celulas;
+            for (int i = 0; i < g->columnCount(); ++i)
+                if (!g->isColumnHidden(i) && g->columnWidth(i) > 0 && !g->titleText(i).isEmpty())
+                    celulas << g->cellText(l, i).trimmed();
+            linhas << celulas;
+        }
+        return linhas;
     }
 
     // The table of the member and its child row, as the store holds them.

@@ -12,18 +12,6 @@ QString t(const char* s)
     return QString::fromUtf8(s);
 }
 
-void membros()
-{
-    QTest::addColumn<bool>("individual");
-    QTest::newRow("mensal") << false;
-    QTest::newRow("individual") << true;
-}
-
-QString linhaDI(const QString& tabela, const QString& colunas)
-{
-    return BancoTeste::valor(QStringLiteral("SELECT ") + colunas + QStringLiteral(" FROM ") + tabela).toString();
-}
-
 }  // namespace
 
 class tst_documentoDI : public QObject {
@@ -53,9 +41,7 @@ private slots:
         QFETCH(bool, suspensao);
         QFETCH(bool, abertos);
         Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre();
+        Cenario c(a, individual, TipoDocumento::DI);
         if (decreto)
             c.clica(Papel::DecretoLei);
         QCOMPARE(c.ativo(Papel::Obsolescencia), decreto);
@@ -77,9 +63,7 @@ private slots:
     void valorTotalSoComObsolescenciaNoMensal()
     {
         Ambiente a;
-        Cenario c(a, false);
-        c.declaracaoComProduto();
-        c.abre();
+        Cenario c(a, false, TipoDocumento::DI);
         QVERIFY(!c.ativo(Papel::ValorTotal));
         c.clica(Papel::DecretoLei);
         c.clica(Papel::Obsolescencia);
@@ -91,14 +75,12 @@ private slots:
         QCOMPARE(a.msgs.inesperadas, 0);
     }
 
-    void naoEletronicaNaoTemSuspensao_data() { membros(); }
+    void naoEletronicaNaoTemSuspensao_data() { editores(); }
     void naoEletronicaNaoTemSuspensao()
     {
         QFETCH(bool, individual);
         Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre();
+        Cenario c(a, individual, TipoDocumento::DI);
         c.digita(Papel::Numero, numeroDI());
         c.clica(Papel::Suspensao);
         QVERIFY(c.marcado(Papel::Suspensao));
@@ -118,14 +100,12 @@ private slots:
         QCOMPARE(a.msgs.inesperadas, 0);
     }
 
-    void numeroComDigitoErradoRecusado_data() { membros(); }
+    void numeroComDigitoErradoRecusado_data() { editores(); }
     void numeroComDigitoErradoRecusado()
     {
         QFETCH(bool, individual);
         Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre();
+        Cenario c(a, individual, TipoDocumento::DI);
         QString errado = numeroDI();
         errado[9] = QChar('0' + (errado.at(9).digitValue() + 1) % 10);
         a.msgs.responde(Msg::OK);
@@ -177,9 +157,7 @@ private slots:
         QFETCH(QString, mensagem);
         QFETCH(QString, resultado);
         Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre();
+        Cenario c(a, individual, TipoDocumento::DI);
         c.clica(Papel::Nao);
         const Papel p = static_cast<Papel>(papel);
         if (!mensagem.isEmpty())
@@ -193,32 +171,22 @@ private slots:
 
     void validacaoNaOrdem_data()
     {
-        QTest::addColumn<bool>("individual");
-        QTest::addColumn<QStringList>("mensagens");
-        QTest::newRow("mensal") << false
-                                << QStringList{t("O campo número da DI deve ser preenchido."), t("DI incorreta."),
-                                               t("O campo adição não pode ser nulo."), t("O campo Item não pode ser nulo."),
-                                               t("O campo quantidade comercial não pode ser nulo."),
-                                               t("O campo moeda não pode ser nulo."),
-                                               t("O campo valor unitário não pode ser nulo."),
-                                               t("O campo moeda não pode ser nulo.")};
-        QTest::newRow("individual") << true
-                                    << QStringList{t("O campo número da DI deve ser preenchido."), t("DI incorreta."),
-                                                   t("O campo número da adição deve ser preenchido."),
-                                                   t("O campo número do item da adição deve ser preenchido."),
-                                                   t("O campo quantidade comercial não pode ser nulo."),
-                                                   t("O campo moeda não pode ser nulo."),
-                                                   t("O campo valor unitário não pode ser nulo."),
-                                                   t("O campo moeda não pode ser nulo.")};
+        const QStringList inicio{t("O campo número da DI deve ser preenchido."), t("DI incorreta.")};
+        const QStringList fim{t("O campo quantidade comercial não pode ser nulo."), t("O campo moeda não pode ser nulo."),
+                              t("O campo valor unitário não pode ser nulo."), t("O campo moeda não pode ser nulo.")};
+        editoresCom("mensagens",
+                    inicio + QStringList{t("O campo adição não pode ser nulo."), t("O campo Item não pode ser nulo.")} + fim,
+                    inicio
+                        + QStringList{t("O campo número da adição deve ser preenchido."),
+                                      t("O campo número do item da adição deve ser preenchido.")}
+                        + fim);
     }
     void validacaoNaOrdem()
     {
         QFETCH(bool, individual);
         QFETCH(QStringList, mensagens);
         Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre();
+        Cenario c(a, individual, TipoDocumento::DI);
         // Each Incluir is refused by the next rule; the field that fails is filled before the next click.
         const QList<std::function<void()>> corrige{
             [&] { qobject_cast<MaskedField*>(c.quadro()->campo(Papel::Numero))->setDigits(t("0912345")); },
@@ -236,38 +204,25 @@ private slots:
             },
             [&] { c.digita(Papel::Moeda1, t("978")); },
         };
-        for (int i = 0; i < mensagens.size(); ++i) {
-            a.msgs.limpa();
-            a.msgs.responde(Msg::OK);
-            // A short number is refused as well when Incluir takes the focus from it.
-            const bool curto = i == 1;
-            if (curto)
-                a.msgs.responde(Msg::OK);
-            c.incluir();
-            const QStringList vistas = curto ? QStringList{t("Número da DI inválido."), mensagens.at(i)}
-                                             : QStringList{mensagens.at(i)};
-            QCOMPARE(a.msgs.textos(), vistas);
-            QCOMPARE(BancoTeste::conta(c.tabela()), 0);
-            corrige.at(i)();
-        }
-        a.msgs.limpa();
-        c.incluir();
-        QCOMPARE(a.msgs.textos(), QStringList());
-        QCOMPARE(BancoTeste::conta(c.tabela()), 1);
-        QCOMPARE(linhaDI(c.tabelaValores(), t("CD_MOEDA_NEG || '|' || CD_MOEDA_FRETE || '|' || CD_MOEDA_SEGURO")),
+        // A short number is refused as well when Incluir takes the focus from it.
+        QList<QStringList> passos;
+        for (int i = 0; i < mensagens.size(); ++i)
+            passos << (i == 1 ? QStringList{t("Número da DI inválido."), mensagens.at(i)} : QStringList{mensagens.at(i)});
+        c.validaNaOrdem(passos, corrige);
+        if (QTest::currentTestFailed())
+            return;
+        QCOMPARE(valorDe(c.tabelaValores(), t("CD_MOEDA_NEG || '|' || CD_MOEDA_FRETE || '|' || CD_MOEDA_SEGURO")),
                  t("220|978|"));
         QVERIFY(AlteracaoPendente);
         QCOMPARE(a.msgs.inesperadas, 0);
     }
 
-    void antigaSemPartesRecusada_data() { membros(); }
+    void antigaSemPartesRecusada_data() { editores(); }
     void antigaSemPartesRecusada()
     {
         QFETCH(bool, individual);
         Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre();
+        Cenario c(a, individual, TipoDocumento::DI);
         c.clica(Papel::Nao);
         c.digita(Papel::Ano, t("95"));
         c.digita(Papel::Orgao, t("1234567"));
@@ -278,14 +233,12 @@ private slots:
         QCOMPARE(a.msgs.inesperadas, 0);
     }
 
-    void freteZeroSemCodigoFicaEVazioVoltaZero_data() { membros(); }
+    void freteZeroSemCodigoFicaEVazioVoltaZero_data() { editores(); }
     void freteZeroSemCodigoFicaEVazioVoltaZero()
     {
         QFETCH(bool, individual);
         Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre();
+        Cenario c(a, individual, TipoDocumento::DI);
         c.preencheDI();
         c.clica(Papel::DecretoLei);
         c.digita(Papel::Moeda0, t("220"));
@@ -295,7 +248,7 @@ private slots:
         QCOMPARE(a.msgs.textos(), QStringList());
         const QString frete = individual ? t("VL_FRETE_UNID_NFS") : t("VL_FRETE_UNID_INT");
         const QString seguro = individual ? t("VL_SEGURO_UNID_NFS") : t("VL_SEGURO_UNID_INT");
-        QCOMPARE(linhaDI(c.tabelaValores(), t("CD_MOEDA_FRETE || '|' || ") + frete + t(" || '|' || CD_MOEDA_SEGURO || '|' || ") + seguro),
+        QCOMPARE(valorDe(c.tabelaValores(), t("CD_MOEDA_FRETE || '|' || ") + frete + t(" || '|' || CD_MOEDA_SEGURO || '|' || ") + seguro),
                  t("|0,0000000||0,0000000"));
         c.escolheLinha(0);
         QCOMPARE(c.texto(Papel::Moeda2), QString());
@@ -322,9 +275,7 @@ private slots:
         QFETCH(bool, obsolescencia);
         QFETCH(bool, comFilha);
         Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre();
+        Cenario c(a, individual, TipoDocumento::DI);
         c.preencheDI();
         c.clica(Papel::DecretoLei);
         if (obsolescencia) {
@@ -337,11 +288,11 @@ private slots:
         }
         c.incluir();
         QCOMPARE(a.msgs.textos(), QStringList());
-        QCOMPARE(linhaDI(c.tabela(), t("IND_DL_288_67 || IND_OBSOLE_RESIDUO || IND_SUSP_PIS_COFINS")),
+        QCOMPARE(valorDe(c.tabela(), t("IND_DL_288_67 || IND_OBSOLE_RESIDUO || IND_SUSP_PIS_COFINS")),
                  obsolescencia ? t("SSN") : t("SNN"));
         QCOMPARE(BancoTeste::conta(c.tabelaValores()), comFilha ? 1 : 0);
         if (obsolescencia && !individual)
-            QCOMPARE(linhaDI(c.tabelaValores(), t("VL_TOT_PROD_OBSOLE")), t("321,50"));
+            QCOMPARE(valorDe(c.tabelaValores(), t("VL_TOT_PROD_OBSOLE")), t("321,50"));
         // Alterar without the Decreto-Lei takes the child row away.
         c.escolheLinha(0);
         QVERIFY(c.marcado(Papel::DecretoLei));
@@ -350,18 +301,16 @@ private slots:
         c.alterar();
         QCOMPARE(a.msgs.textos(), QStringList());
         QCOMPARE(BancoTeste::conta(c.tabelaValores()), 0);
-        QCOMPARE(linhaDI(c.tabela(), t("IND_DL_288_67")), t("N"));
+        QCOMPARE(valorDe(c.tabela(), t("IND_DL_288_67")), t("N"));
         QCOMPARE(a.msgs.inesperadas, 0);
     }
 
-    void suspensaoGuardaValores_data() { membros(); }
+    void suspensaoGuardaValores_data() { editores(); }
     void suspensaoGuardaValores()
     {
         QFETCH(bool, individual);
         Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre();
+        Cenario c(a, individual, TipoDocumento::DI);
         c.preencheDI();
         c.clica(Papel::Suspensao);
         c.digita(Papel::Moeda0, t("978"));
@@ -371,25 +320,23 @@ private slots:
         c.incluir();
         QCOMPARE(a.msgs.textos(), QStringList());
         const QString valor = individual ? t("VL_INS_PROD_UNID_NFS") : t("VL_PROD_UNID_PROD");
-        QCOMPARE(linhaDI(c.tabelaValores(), t("CD_MOEDA_NEG || '|' || ") + valor + t(" || '|' || CD_MOEDA_SEGURO")),
+        QCOMPARE(valorDe(c.tabelaValores(), t("CD_MOEDA_NEG || '|' || ") + valor + t(" || '|' || CD_MOEDA_SEGURO")),
                  t("978|1,1234567|220"));
-        QCOMPARE(linhaDI(c.tabela(), t("NR_DI || '|' || NR_DI_ANTIGA || '|' || NR_ADICAO_DI || '|' || NR_ITEM_ADICAO || '|' || IND_SUSP_PIS_COFINS")),
+        QCOMPARE(valorDe(c.tabela(), t("NR_DI || '|' || NR_DI_ANTIGA || '|' || NR_ADICAO_DI || '|' || NR_ITEM_ADICAO || '|' || IND_SUSP_PIS_COFINS")),
                  numeroDI() + t("||001|01|S"));
         QCOMPARE(a.msgs.inesperadas, 0);
     }
 
-    void antigaGuardaAnoOrgaoSequencialJuntos_data() { membros(); }
+    void antigaGuardaAnoOrgaoSequencialJuntos_data() { editores(); }
     void antigaGuardaAnoOrgaoSequencialJuntos()
     {
         QFETCH(bool, individual);
         Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre();
+        Cenario c(a, individual, TipoDocumento::DI);
         c.preencheDIAntiga();
         c.incluir();
         QCOMPARE(a.msgs.textos(), QStringList());
-        QCOMPARE(linhaDI(c.tabela(), t("NR_DI || '|' || NR_DI_ANTIGA")), t("|951234567654321"));
+        QCOMPARE(valorDe(c.tabela(), t("NR_DI || '|' || NR_DI_ANTIGA")), t("|951234567654321"));
         QCOMPARE(c.quadro()->grade->cellText(0, 4), t("951234567654321"));
         c.escolheLinha(0);
         QVERIFY(qobject_cast<QRadioButton*>(c.quadro()->campo(Papel::Nao))->isChecked());
@@ -448,10 +395,7 @@ private slots:
 
     void semProdutosVoltaParaProduto_data()
     {
-        QTest::addColumn<bool>("individual");
-        QTest::addColumn<QString>("mensagem");
-        QTest::newRow("mensal") << false << t("Não existem produtos cadastrados");
-        QTest::newRow("individual") << true << t("Não existem produtos cadastrados.");
+        editoresCom("mensagem", t("Não existem produtos cadastrados"), t("Não existem produtos cadastrados."));
     }
     void semProdutosVoltaParaProduto()
     {

@@ -13,20 +13,6 @@ QString t(const char* s)
     return QString::fromUtf8(s);
 }
 
-void editores()
-{
-    QTest::addColumn<bool>("individual");
-    QTest::newRow("mensal") << false;
-    QTest::newRow("individual") << true;
-}
-
-QString linhaDSI(bool individual, const QString& colunas)
-{
-    return BancoTeste::valor(QStringLiteral("SELECT ") + colunas + QStringLiteral(" FROM ")
-                             + (individual ? t("ITEM_DSI_PE_IND") : t("ITEM_DSI_PE_MEN")))
-        .toString();
-}
-
 const QList<Papel> Blocos{Papel::Moeda0, Papel::Valor0, Papel::Moeda1, Papel::Valor1, Papel::Moeda2, Papel::Valor2};
 
 }  // namespace
@@ -39,18 +25,16 @@ private slots:
     {
         QFETCH(bool, individual);
         Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre(TipoDocumento::DSI);
+        Cenario c(a, individual, TipoDocumento::DSI);
         for (Papel p : Blocos)
             QVERIFY(!c.ativo(p));
         c.preencheValida();
         c.incluir();
         QCOMPARE(a.msgs.textos(), QStringList());
-        QCOMPARE(linhaDSI(individual, t("NR_DSI || '|' || NR_DSI_ANTIGA || '|' || NR_BEM || '|' || IND_SUSP_PIS_COFINS")),
+        QCOMPARE(valorDe(c.tabela(), t("NR_DSI || '|' || NR_DSI_ANTIGA || '|' || NR_BEM || '|' || IND_SUSP_PIS_COFINS")),
                  numeroDSI() + t("||001|N"));
         // The values are written in the same statement, empty.
-        QCOMPARE(linhaDSI(individual, t("CD_MOEDA_NEG || '|' || VL_PROD_UNID_PROD || '|' || VL_FRETE_UNID_INT")), t("||"));
+        QCOMPARE(valorDe(c.tabela(), t("CD_MOEDA_NEG || '|' || VL_PROD_UNID_PROD || '|' || VL_FRETE_UNID_INT")), t("||"));
         QCOMPARE(a.msgs.inesperadas, 0);
     }
 
@@ -59,9 +43,7 @@ private slots:
     {
         QFETCH(bool, individual);
         Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre(TipoDocumento::DSI);
+        Cenario c(a, individual, TipoDocumento::DSI);
         c.preencheValida();
         c.clica(Papel::Suspensao);
         for (Papel p : Blocos)
@@ -72,7 +54,7 @@ private slots:
         c.digita(Papel::Valor2, t("0,5"));
         c.incluir();
         QCOMPARE(a.msgs.textos(), QStringList());
-        QCOMPARE(linhaDSI(individual, t("IND_SUSP_PIS_COFINS || '|' || CD_MOEDA_NEG || '|' || VL_PROD_UNID_PROD || '|' || "
+        QCOMPARE(valorDe(c.tabela(), t("IND_SUSP_PIS_COFINS || '|' || CD_MOEDA_NEG || '|' || VL_PROD_UNID_PROD || '|' || "
                                         "CD_MOEDA_FRETE || '|' || VL_FRETE_UNID_INT || '|' || CD_MOEDA_SEGURO || '|' || "
                                         "VL_SEGURO_UNID_INT")),
                  t("S|220|3,2500000||0,0000000|978|0,5000000"));
@@ -87,9 +69,7 @@ private slots:
     {
         QFETCH(bool, individual);
         Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre(TipoDocumento::DSI);
+        Cenario c(a, individual, TipoDocumento::DSI);
         c.clica(Papel::Suspensao);
         c.digita(Papel::Moeda0, t("220"));
         c.digita(Papel::Valor0, t("3"));
@@ -126,9 +106,7 @@ private slots:
         QFETCH(QString, nove);
         QFETCH(bool, recusado);
         Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre(TipoDocumento::DSI);
+        Cenario c(a, individual, TipoDocumento::DSI);
         if (recusado)
             a.msgs.responde(Msg::OK);
         c.digita(Papel::Numero, numeroDSI(nove));
@@ -153,9 +131,7 @@ private slots:
         QFETCH(QString, numero);
         QFETCH(QStringList, mensagens);
         Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre(TipoDocumento::DSI);
+        Cenario c(a, individual, TipoDocumento::DSI);
         for (int i = 0; i < mensagens.size(); ++i)
             a.msgs.responde(Msg::OK);
         c.digita(Papel::Numero, numero);
@@ -168,9 +144,7 @@ private slots:
     void digitoErradoRecusado()
     {
         Ambiente a;
-        Cenario c(a, false);
-        c.declaracaoComProduto();
-        c.abre(TipoDocumento::DSI);
+        Cenario c(a, false, TipoDocumento::DSI);
         QString errado = numeroDSI();
         errado[9] = QChar('0' + (errado.at(9).digitValue() + 1) % 10);
         a.msgs.responde(Msg::OK);
@@ -211,9 +185,7 @@ private slots:
         QFETCH(QString, mensagem);
         QFETCH(QString, resultado);
         Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre(TipoDocumento::DSI);
+        Cenario c(a, individual, TipoDocumento::DSI);
         c.clica(Papel::Nao);
         const Papel p = static_cast<Papel>(papel);
         if (!mensagem.isEmpty())
@@ -230,9 +202,7 @@ private slots:
     {
         QFETCH(bool, individual);
         Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre(TipoDocumento::DSI);
+        Cenario c(a, individual, TipoDocumento::DSI);
         const QStringList mensagens{t("O campo número da DSI deve ser preenchido."), t("DSI incorreta"),
                                     t("Este campo não pode ser nulo."), t("Este campo não pode ser nulo"),
                                     t("O campo moeda não pode ser nulo."), t("O campo valor unitário não pode ser nulo.")};
@@ -247,43 +217,47 @@ private slots:
             [&] { c.digita(Papel::Moeda0, t("220")); },
             [&] { c.digita(Papel::Valor0, t("1")); },
         };
-        for (int i = 0; i < mensagens.size(); ++i) {
-            a.msgs.limpa();
-            a.msgs.responde(Msg::OK);
-            // The individual editor refuses a short number as well when Incluir takes the focus from it; the monthly
-            // one runs only the check digit there, which these seven digits pass.
-            const bool curto = i == 1 && individual;
-            if (curto)
-                a.msgs.responde(Msg::OK);
-            c.incluir();
-            const QString aoSair = individual ? t("Número deve ter 10 dígitos.") : t("Número da DSI inválido.");
-            const QStringList vistas = curto ? QStringList{aoSair, mensagens.at(i)} : QStringList{mensagens.at(i)};
-            QCOMPARE(a.msgs.textos(), vistas);
-            QCOMPARE(BancoTeste::conta(c.tabela()), 0);
-            corrige.at(i)();
-        }
-        a.msgs.limpa();
+        // The individual editor refuses a short number as well when Incluir takes the focus from it; the monthly one
+        // runs only the check digit there, which these seven digits pass.
+        QList<QStringList> passos;
+        for (int i = 0; i < mensagens.size(); ++i)
+            passos << (i == 1 && individual ? QStringList{t("Número deve ter 10 dígitos."), mensagens.at(i)}
+                                            : QStringList{mensagens.at(i)});
+        c.validaNaOrdem(passos, corrige);
+        QCOMPARE(a.msgs.inesperadas, 0);
+    }
+
+    // A number of zeros is refused as it is typed and as it is left, but stays in the field: Incluir then refuses it
+    // with the validation's own words.
+    void numeroDeZerosRecusadoAoIncluir_data() { editores(); }
+    void numeroDeZerosRecusadoAoIncluir()
+    {
+        QFETCH(bool, individual);
+        Ambiente a;
+        Cenario c(a, individual, TipoDocumento::DSI);
+        c.digita(Papel::NumeroBem, t("1"));
+        c.digita(Papel::Quantidade, t("4"));
+        a.msgs.responde(Msg::OK);
+        c.digita(Papel::Numero, t("0000000000"));
+        a.msgs.responde(Msg::OK).responde(Msg::OK);
         c.incluir();
-        QCOMPARE(a.msgs.textos(), QStringList());
-        QCOMPARE(BancoTeste::conta(c.tabela()), 1);
+        const QString invalido = t("Número da DSI inválido.");
+        QCOMPARE(a.msgs.textos(), (QStringList{invalido, invalido, t("DSI não pode ser igual a zeros.")}));
+        QCOMPARE(BancoTeste::conta(c.tabela()), 0);
         QCOMPARE(a.msgs.inesperadas, 0);
     }
 
     void antigaGuardaPartesJuntasERecusaARepetida_data()
     {
-        QTest::addColumn<bool>("individual");
-        QTest::addColumn<QString>("mensagem");
-        QTest::newRow("mensal") << false << t("O conjunto Ano/Orgão/Seqüencial/Número do Bem da DSI já foi incluído.");
-        QTest::newRow("individual") << true << t("DSI já incluída.");
+        editoresCom("mensagem", t("O conjunto Ano/Orgão/Seqüencial/Número do Bem da DSI já foi incluído."),
+                    t("DSI já incluída."));
     }
     void antigaGuardaPartesJuntasERecusaARepetida()
     {
         QFETCH(bool, individual);
         QFETCH(QString, mensagem);
         Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre(TipoDocumento::DSI);
+        Cenario c(a, individual, TipoDocumento::DSI);
         for (int vez = 0; vez < 2; ++vez) {
             c.clica(Papel::Nao);
             c.digita(Papel::Ano, t("97"));
@@ -297,7 +271,7 @@ private slots:
             c.incluir();
         }
         QCOMPARE(a.msgs.textos(), QStringList{mensagem});
-        QCOMPARE(linhaDSI(individual, t("NR_DSI || '|' || NR_DSI_ANTIGA || '|' || NR_BEM")), t("|971234567654321|002"));
+        QCOMPARE(valorDe(c.tabela(), t("NR_DSI || '|' || NR_DSI_ANTIGA || '|' || NR_BEM")), t("|971234567654321|002"));
         c.escolheLinha(0);
         QVERIFY(qobject_cast<QRadioButton*>(c.quadro()->campo(Papel::Nao))->isChecked());
         QCOMPARE(c.texto(Papel::Sequencial), t("654321"));

@@ -17,38 +17,15 @@ QString t(const char* s)
     return QString::fromUtf8(s);
 }
 
-QString coluna(const QString& tabela, const QString& colunas)
-{
-    return BancoTeste::valor(QStringLiteral("SELECT ") + colunas + QStringLiteral(" FROM ") + tabela).toString();
-}
-
-// Each member with one text per row.
-void membrosCom(const char* nome, const QMap<QString, QString>& textos)
-{
-    QTest::addColumn<int>("tipo");
-    QTest::addColumn<bool>("individual");
-    QTest::addColumn<QString>(nome);
-    for (const MembroDocumento& m : MembrosDocumento()) {
-        if (m.origem != Origem::Produto)
-            continue;
-        const QString linha = QString::fromLatin1(nomeTipo(m.tipo)) + (m.individual ? t(" individual") : t(" mensal"));
-        QTest::newRow(qPrintable(linha)) << int(m.tipo) << m.individual << textos.value(linha);
-    }
-}
-
+// The currency picker's caller key of each value block, for the members that have the blocks.
 void membrosComMoeda()
 {
-    QTest::addColumn<int>("tipo");
-    QTest::addColumn<bool>("individual");
-    QTest::addColumn<QStringList>("chaves");
-    QTest::newRow("DI mensal") << int(TipoDocumento::DI) << false
-                               << QStringList{t("produtoPEMensalDIProd"), t("produtoPEMensalDIFI"), t("produtoPEMensalDISI")};
-    QTest::newRow("DI individual") << int(TipoDocumento::DI) << true
-                                   << QStringList{t("produtoPEDIProd"), t("produtoPEDIFI"), t("produtoPEDISI")};
-    QTest::newRow("DSI mensal") << int(TipoDocumento::DSI) << false
-                                << QStringList{t("produtoPEMensalDSIProd"), t("produtoPEMensalDSIFI"), t("produtoPEMensalDSISI")};
-    QTest::newRow("DSI individual") << int(TipoDocumento::DSI) << true
-                                    << QStringList{t("produtoPEDSIProd"), t("produtoPEDSIFI"), t("produtoPEDSISI")};
+    linhasMembros<QStringList>(
+        "chaves",
+        {{t("DI mensal"), {t("produtoPEMensalDIProd"), t("produtoPEMensalDIFI"), t("produtoPEMensalDISI")}},
+         {t("DI individual"), {t("produtoPEDIProd"), t("produtoPEDIFI"), t("produtoPEDISI")}},
+         {t("DSI mensal"), {t("produtoPEMensalDSIProd"), t("produtoPEMensalDSIFI"), t("produtoPEMensalDSISI")}},
+         {t("DSI individual"), {t("produtoPEDSIProd"), t("produtoPEDSIFI"), t("produtoPEDSISI")}}});
 }
 
 // The value blocks open: the Decreto-Lei for a DI, the suspension for a DSI.
@@ -65,17 +42,13 @@ private slots:
     void paginaMostraOQuadroEscolhido_data() { linhasMembros(); }
     void paginaMostraOQuadroEscolhido()
     {
-        QFETCH(int, tipo);
-        QFETCH(bool, individual);
         Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre(static_cast<TipoDocumento>(tipo));
+        Cenario c(a, individualDaLinha(), tipoDaLinha());
         QVERIFY(c.quadro()->isVisible());
         QVERIFY(c.pagina()->botoes->isVisible());
-        QVERIFY(c.pagina()->opcoes[tipo]->isChecked());
+        QVERIFY(c.pagina()->opcoes[int(c.tipo)]->isChecked());
         for (int outro = 0; outro < 3; ++outro)
-            if (outro != tipo)
+            if (outro != int(c.tipo))
                 QVERIFY(!c.pagina()->quadro(static_cast<TipoDocumento>(outro))->isVisible());
         QVERIFY(!c.pagina()->botoes->cmdAlterar->isEnabled());
         QCOMPARE(a.campo<QLabel>(c.quadro()->membro().nomeRotuloQuantidade)->text(), t("Quant. comercial em UN"));
@@ -84,38 +57,25 @@ private slots:
 
     void gradeTemOsTitulosDoMembro_data()
     {
-        QTest::addColumn<int>("tipo");
-        QTest::addColumn<bool>("individual");
-        QTest::addColumn<QStringList>("titulos");
-        const int di = int(TipoDocumento::DI), dsi = int(TipoDocumento::DSI), nfa = int(TipoDocumento::NFA);
-        QTest::newRow("DI mensal") << di << false
-                                   << QStringList{t("Código do produto"), t("Local de destino"), t("Nº DI"), t("Nº DI Antiga"),
-                                                  t("Adição"), t("Item"), t("Quantidade")};
-        QTest::newRow("DI individual") << di << true
-                                       << QStringList{t("Item"), t("Código do Produto"), t("Núm. DI"), t("Núm. DI Antiga"),
-                                                      t("Adição"), t("Item DI")};
-        QTest::newRow("DSI mensal") << dsi << false
-                                    << QStringList{t("Código do produto"), t("Local de destino"), t("Nº DSI"),
-                                                   t("Nº DSI Antiga"), t("Nº do Bem"), t("Quantidade")};
-        QTest::newRow("DSI individual") << dsi << true
-                                        << QStringList{t("Item"), t("Código do Produto"), t("Núm. DSI"), t("Núm. DSI Antiga"),
-                                                       t("Número do Bem")};
-        QTest::newRow("NFA mensal") << nfa << false
-                                    << QStringList{t("Código do produto"), t("Local de destino"), t("NF"), t("Série"),
-                                                   t("Item"), t("Quantidade")};
-        QTest::newRow("NFA individual") << nfa << true
-                                        << QStringList{t("Item"), t("Código do Produto"), t("NF"), t("Série"), t("Item"),
-                                                       t("CNPJ")};
+        linhasMembros<QStringList>(
+            "titulos",
+            {{t("DI mensal"), {t("Código do produto"), t("Local de destino"), t("Nº DI"), t("Nº DI Antiga"), t("Adição"),
+                               t("Item"), t("Quantidade")}},
+             {t("DI individual"),
+              {t("Item"), t("Código do Produto"), t("Núm. DI"), t("Núm. DI Antiga"), t("Adição"), t("Item DI")}},
+             {t("DSI mensal"), {t("Código do produto"), t("Local de destino"), t("Nº DSI"), t("Nº DSI Antiga"),
+                                t("Nº do Bem"), t("Quantidade")}},
+             {t("DSI individual"),
+              {t("Item"), t("Código do Produto"), t("Núm. DSI"), t("Núm. DSI Antiga"), t("Número do Bem")}},
+             {t("NFA mensal"),
+              {t("Código do produto"), t("Local de destino"), t("NF"), t("Série"), t("Item"), t("Quantidade")}},
+             {t("NFA individual"), {t("Item"), t("Código do Produto"), t("NF"), t("Série"), t("Item"), t("CNPJ")}}});
     }
     void gradeTemOsTitulosDoMembro()
     {
-        QFETCH(int, tipo);
-        QFETCH(bool, individual);
         QFETCH(QStringList, titulos);
         Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre(static_cast<TipoDocumento>(tipo));
+        Cenario c(a, individualDaLinha(), tipoDaLinha());
         ConsultGrid* g = c.quadro()->grade;
         QStringList vistos;
         for (int i = 0; i < g->columnCount(); ++i)
@@ -128,12 +88,8 @@ private slots:
     void linhaIncluidaVoltaAoEscolherEAlterada_data() { linhasMembros(); }
     void linhaIncluidaVoltaAoEscolherEAlterada()
     {
-        QFETCH(int, tipo);
-        QFETCH(bool, individual);
         Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre(static_cast<TipoDocumento>(tipo));
+        Cenario c(a, individualDaLinha(), tipoDaLinha());
         AlteracaoPendente = false;
         c.preencheValida();
         c.incluir();
@@ -151,7 +107,7 @@ private slots:
         c.alterar();
         QCOMPARE(a.msgs.textos(), QStringList());
         const QString quantidade = c.quadro()->membro().colunas.value(Papel::Quantidade);
-        QCOMPARE(coluna(c.tabela(), quantidade), t("7,50000"));
+        QCOMPARE(valorDe(c.tabela(), quantidade), t("7,50000"));
         QCOMPARE(BancoTeste::conta(c.tabela()), 1);
         QVERIFY(!c.pagina()->botoes->cmdAlterar->isEnabled());
         QCOMPARE(a.msgs.inesperadas, 0);
@@ -159,23 +115,19 @@ private slots:
 
     void mesmaLinhaDuasVezesRecusada_data()
     {
-        membrosCom("mensagem",
-                   {{t("DI mensal"), t("O conjunto DI/Adição/Item já encontra-se incluído.")},
-                    {t("DI individual"), t("DI já incluída.")},
-                    {t("DSI mensal"), t("O conjunto Número/Número do Bem da DSI eletrônica já foi incluído.")},
-                    {t("DSI individual"), t("DSI já incluída.")},
-                    {t("NFA mensal"), t("O conjunto Número/Série(Subsérie)/Item da NF de entrada já foi incluído.")},
-                    {t("NFA individual"), t("NF de entrada já incluída.")}});
+        linhasMembros("mensagem",
+                      {{t("DI mensal"), t("O conjunto DI/Adição/Item já encontra-se incluído.")},
+                       {t("DI individual"), t("DI já incluída.")},
+                       {t("DSI mensal"), t("O conjunto Número/Número do Bem da DSI eletrônica já foi incluído.")},
+                       {t("DSI individual"), t("DSI já incluída.")},
+                       {t("NFA mensal"), t("O conjunto Número/Série(Subsérie)/Item da NF de entrada já foi incluído.")},
+                       {t("NFA individual"), t("NF de entrada já incluída.")}});
     }
     void mesmaLinhaDuasVezesRecusada()
     {
-        QFETCH(int, tipo);
-        QFETCH(bool, individual);
         QFETCH(QString, mensagem);
         Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre(static_cast<TipoDocumento>(tipo));
+        Cenario c(a, individualDaLinha(), tipoDaLinha());
         c.preencheValida();
         c.incluir();
         c.preencheValida();
@@ -197,20 +149,18 @@ private slots:
     // invoices of both editors and the monthly DI and DSI search.
     void alterarParaLinhaExistente_data()
     {
-        membrosCom("mensagem", {{t("DI mensal"), t("DI já incluída.")},
-                                {t("DSI mensal"), t("DSI já incluída.")},
-                                {t("NFA mensal"), t("NF de entrada já incluída.")},
-                                {t("NFA individual"), t("NF de entrada já incluída.")}});
+        linhasMembros("mensagem", {{t("DI mensal"), t("DI já incluída.")},
+                                   {t("DI individual"), QString()},
+                                   {t("DSI mensal"), t("DSI já incluída.")},
+                                   {t("DSI individual"), QString()},
+                                   {t("NFA mensal"), t("NF de entrada já incluída.")},
+                                   {t("NFA individual"), t("NF de entrada já incluída.")}});
     }
     void alterarParaLinhaExistente()
     {
-        QFETCH(int, tipo);
-        QFETCH(bool, individual);
         QFETCH(QString, mensagem);
         Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre(static_cast<TipoDocumento>(tipo));
+        Cenario c(a, individualDaLinha(), tipoDaLinha());
         c.preencheValida(1);
         c.incluir();
         c.preencheValida(2);
@@ -232,12 +182,8 @@ private slots:
     void excluirPerguntaAntes_data() { linhasMembros(); }
     void excluirPerguntaAntes()
     {
-        QFETCH(int, tipo);
-        QFETCH(bool, individual);
         Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre(static_cast<TipoDocumento>(tipo));
+        Cenario c(a, individualDaLinha(), tipoDaLinha());
         c.preencheValida(1);
         c.incluir();
         c.preencheValida(2);
@@ -257,39 +203,24 @@ private slots:
         QCOMPARE(a.msgs.inesperadas, 0);
     }
 
-    void ultimaLinhaExcluidaReiniciaAPaginaMensal_data()
-    {
-        QTest::addColumn<int>("tipo");
-        QTest::newRow("DI") << int(TipoDocumento::DI);
-        QTest::newRow("DSI") << int(TipoDocumento::DSI);
-        QTest::newRow("NFA") << int(TipoDocumento::NFA);
-    }
+    void ultimaLinhaExcluidaReiniciaAPaginaMensal_data() { tipos(); }
     void ultimaLinhaExcluidaReiniciaAPaginaMensal()
     {
-        QFETCH(int, tipo);
         Ambiente a;
-        Cenario c(a, false);
-        c.declaracaoComProduto();
-        c.abre(static_cast<TipoDocumento>(tipo));
+        Cenario c(a, false, tipoDaLinha());
         c.preencheValida();
         c.incluir();
         c.escolheLinha(0);
         a.msgs.responde(Msg::Yes);
         c.excluir();
         QCOMPARE(BancoTeste::conta(c.tabela()), 0);
-        QVERIFY(!c.pagina()->opcoes[tipo]->isChecked());
+        QVERIFY(!c.pagina()->opcoes[int(c.tipo)]->isChecked());
         QVERIFY(!c.quadro()->isVisible());
         QVERIFY(!c.pagina()->botoes->isVisible());
         QCOMPARE(a.msgs.inesperadas, 0);
     }
 
-    void incluirNoIndividualPedeOItem_data()
-    {
-        QTest::addColumn<int>("tipo");
-        QTest::newRow("DI") << int(TipoDocumento::DI);
-        QTest::newRow("DSI") << int(TipoDocumento::DSI);
-        QTest::newRow("NFA") << int(TipoDocumento::NFA);
-    }
+    void incluirNoIndividualPedeOItem_data() { tipos(); }
     void incluirNoIndividualPedeOItem()
     {
         QFETCH(int, tipo);
@@ -310,13 +241,9 @@ private slots:
     void pickerDeMoedaEscreveNoCampoDaChave_data() { membrosComMoeda(); }
     void pickerDeMoedaEscreveNoCampoDaChave()
     {
-        QFETCH(int, tipo);
-        QFETCH(bool, individual);
         QFETCH(QStringList, chaves);
         Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre(static_cast<TipoDocumento>(tipo));
+        Cenario c(a, individualDaLinha(), tipoDaLinha());
         abreBlocos(c);
         const QStringList codigos{t("220"), t("978"), t("790")};
         for (int i = 0; i < 3; ++i)
@@ -330,12 +257,8 @@ private slots:
     void moedaDesconhecidaAvisada_data() { membrosComMoeda(); }
     void moedaDesconhecidaAvisada()
     {
-        QFETCH(int, tipo);
-        QFETCH(bool, individual);
         Ambiente a;
-        Cenario c(a, individual);
-        c.declaracaoComProduto();
-        c.abre(static_cast<TipoDocumento>(tipo));
+        Cenario c(a, individualDaLinha(), tipoDaLinha());
         c.clica(Papel::Suspensao);
         a.msgs.responde(Msg::OK);
         c.digita(Papel::Moeda1, t("999"));
