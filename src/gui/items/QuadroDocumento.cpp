@@ -214,7 +214,10 @@ QWidget* QuadroDocumento::constroiBloco(int i)
     g->addWidget(new QLabel(QStringLiteral("Moeda"), bloco), 0, 0);
     g->addWidget(cod, 1, 0);
     g->addWidget(botao, 1, 1);
-    g->addWidget(new QLabel(QString::fromUtf8("Valor unitário na medida comercial"), bloco), 0, 2);
+    // The value's long caption wraps, so that three blocks side by side fit a screen of 1024 pixels.
+    auto* rotuloValor = new QLabel(QString::fromUtf8("Valor unitário na medida comercial"), bloco);
+    rotuloValor->setWordWrap(true);
+    g->addWidget(rotuloValor, 0, 2);
     g->addWidget(val, 1, 2);
     DestinosEscolha::moeda().registra(m_m.chavesMoeda.value(i), cod, nullptr, this);
     connect(botao, &QPushButton::clicked, this,
@@ -606,6 +609,8 @@ QVariantMap QuadroDocumento::linha() const
     QVariantMap l;
     for (auto i = m_m.colunas.cbegin(); i != m_m.colunas.cend(); ++i)
         l.insert(i.value().toUpper(), texto(i.key()));
+    for (auto i = m_m.colunasDoPai.cbegin(); i != m_m.colunasDoPai.cend(); ++i)
+        l.insert(i.key().toUpper(), m_textosPai.value(i.value()));
     if (!tem(Papel::Sim))
         return l;
     const bool sim = eletronica();
