@@ -218,6 +218,8 @@ QWidget* QuadroDocumento::constroiBloco(int i)
     auto* rotuloValor = new QLabel(QString::fromUtf8("Valor unitário na medida comercial"), bloco);
     rotuloValor->setWordWrap(true);
     g->addWidget(rotuloValor, 0, 2);
+    g->setColumnStretch(2, 1);
+    cod->setMaximumWidth(cod->fontMetrics().horizontalAdvance(QStringLiteral("0000")) + 16);
     g->addWidget(val, 1, 2);
     DestinosEscolha::moeda().registra(m_m.chavesMoeda.value(i), cod, nullptr, this);
     connect(botao, &QPushButton::clicked, this,
