@@ -125,11 +125,6 @@ void mensagens(MembroDocumento& m, int k)
     m.msgDuplicadoAntiga = m.individual ? t("DI já incluída.")
                                         : t("O conjunto Ano/Órgão/Seqüencial/Adição/Item já encontra-se incluído.");
     m.msgDuplicadoAlteracao = m.individual ? QString() : t("DI já incluída.");
-    m.msgSemPai = Um({nullptr, "Não foi escolhido produto para documento de origem.", nullptr,
-                      "Não foi escolhido insumo para documento de origem."},
-                     k);
-    m.msgSemSelecaoAlterar = m.individual ? t("Inclua ou selecione um documento.") : t("Inclua um documento ou selecione no grid");
-    m.msgSemSelecaoExcluir = m.msgSemSelecaoAlterar;
 }
 
 QList<ColunaDocumento> grade(const MembroDocumento& m)

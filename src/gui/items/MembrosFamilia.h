@@ -52,6 +52,14 @@ inline MembroDocumento Inicia(TipoDocumento tipo, Origem origem, bool individual
     m.nomeQuadro = QStringLiteral("fra") + nome + aba;
     m.nomeRotuloQuantidade = QStringLiteral("lblQuantidade") + nome + (insumo ? QStringLiteral("_PIsemPPB") : QStringLiteral("_PE"));
     m.nomeGrade = QStringLiteral("grdConsulta") + nome + aba;
+    // The individual editor asks for the product (input) before Incluir; both editors for a row before Alterar
+    // and Excluir.
+    if (individual)
+        m.msgSemPai = insumo ? QStringLiteral("Não foi escolhido insumo para documento de origem.")
+                             : QStringLiteral("Não foi escolhido produto para documento de origem.");
+    m.msgSemSelecaoAlterar = individual ? QStringLiteral("Inclua ou selecione um documento.")
+                                        : QStringLiteral("Inclua um documento ou selecione no grid");
+    m.msgSemSelecaoExcluir = m.msgSemSelecaoAlterar;
     return m;
 }
 

@@ -102,11 +102,8 @@ void mensagens(MembroDocumento& m, int k)
                                             : t("O conjunto Número/Série(Subsérie)/Item da NF de entrada já foi incluído.");
     // Unlike the DI and the DSI, both editors search again on Alterar.
     m.msgDuplicadoAlteracao = t("NF de entrada já incluída.");
-    m.msgSemPai = Um({"O campo código do produto deve ser selecionado.", "Não foi escolhido produto para documento de origem.",
-                      nullptr, "Não foi escolhido insumo para documento de origem."},
-                     k);
-    m.msgSemSelecaoAlterar = m.individual ? t("Inclua ou selecione um documento.") : t("Inclua um documento ou selecione no grid");
-    m.msgSemSelecaoExcluir = m.msgSemSelecaoAlterar;
+    if (k == 0)
+        m.msgSemPai = t("O campo código do produto deve ser selecionado.");
     m.msgSerieZero = m.individual ? t("Série da Nota Fiscal inválida.") : t("O número da série não pode ser zero.");
     m.msgDataAno = t("Ano da Nota Fiscal deve ser igual ou superior a 1970.");
 }
