@@ -1,6 +1,7 @@
 // Declarations of both types with products without basic process and their inputs made through the screens,
-// written to a file, checked record by record (records 31 to 33, the consolidated quantity of an input at a place
-// included), read back into an empty database and opened again with the same rows.
+// written to a file, checked record by record (records 31 to 36, the consolidated quantity of an input at a place
+// included; the individual one byte for byte against a golden file), read back into an empty database and opened
+// again with the same rows.
 #include "ArquivoTeste.h"
 #include "CenariosGravacao.h"
 #include "DocumentoTeste.h"
