@@ -289,6 +289,15 @@ QString UnidadeDoInsumo(const QString& idVrt, const QString& codigo)
     return r ? r->unidade : QString();
 }
 
+QString NomeDoInsumo(const QString& idVrt, const QString& codigo)
+{
+    return ValorUnico(QStringLiteral("SELECT N.NM_INT_INSUMO FROM ITEM_VRT_MEN I "
+                                     "INNER JOIN INSUMO_ITEM_VRT_MEN N ON N.ID_ITEM_VRT = I.ID_ITEM_VRT "
+                                     "WHERE I.ID_VRT_MICRO = ? AND N.CD_INT_INSUMO = ? ORDER BY N.ID_INSUMO_ITEM LIMIT 1"),
+                      {idVrt, codigo})
+        .toString();
+}
+
 std::optional<QString> TotalInsumo(const QString& idVrt, const QString& codigo, bool individual)
 {
     const QVariant v = ValorUnico(individual ? QStringLiteral("SELECT coalesce(QT_TOT_INS, '') FROM INSUMO_VRT_IND "

@@ -94,6 +94,8 @@ QStringList InsumosConsolidados(const QString& idVrt);
 // (CD_LOCAL_DESTINO, NM_LOCAL_DESTINO, QT_TOT_INS_POR_LOC) of the input, in order of place.
 QList<QStringList> LocaisDoInsumo(const QString& idVrt, const QString& codigo);
 QString UnidadeDoInsumo(const QString& idVrt, const QString& codigo);
+// The input's name in the first of its rows in the declaration's products.
+QString NomeDoInsumo(const QString& idVrt, const QString& codigo);
 // INSUMO_VRT (monthly) or INSUMO_VRT_IND (individual): the statistical total, nullopt without a row.
 std::optional<QString> TotalInsumo(const QString& idVrt, const QString& codigo, bool individual);
 // Updates the row when `existe`, else inserts it.

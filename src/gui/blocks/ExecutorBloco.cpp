@@ -501,9 +501,9 @@ void ExecutorBloco::recusa(const QString& texto, QWidget* foco)
         foco->setFocus(Qt::OtherFocusReason);
 }
 
-bool ExecutorBloco::passaRegras(Operacao op, QWidget* botao)
+bool ExecutorBloco::passaRegras(const QList<RegraBloco>& regras, Operacao op, QWidget* botao)
 {
-    for (const RegraBloco& r : std::as_const(m_d.regras)) {
+    for (const RegraBloco& r : regras) {
         const QString texto = r.teste(*this, op);
         if (!texto.isEmpty()) {
             recusa(texto, r.foco.isEmpty() ? botao : controle(r.foco));
@@ -531,7 +531,7 @@ bool ExecutorBloco::validaCampos()
 void ExecutorBloco::incluir()
 {
     if (!m_d.regras.isEmpty()) {
-        if (!passaRegras(Operacao::Incluir, m_botoes->cmdIncluir))
+        if (!passaRegras(m_d.regras, Operacao::Incluir, m_botoes->cmdIncluir))
             return;
         modVRTPLN::AlteracaoPendente = true;
         if (m_d.grava)
@@ -563,7 +563,7 @@ void ExecutorBloco::alterar()
         return;
     }
     if (!m_d.regras.isEmpty()) {
-        if (!passaRegras(Operacao::Alterar, m_botoes->cmdAlterar))
+        if (!passaRegras(m_d.regras, Operacao::Alterar, m_botoes->cmdAlterar))
             return;
         modVRTPLN::AlteracaoPendente = true;
         if (m_d.grava)
@@ -601,6 +601,8 @@ void ExecutorBloco::excluir()
         recusa(m_d.msgSemSelecao, m_botoes->cmdExcluir);
         return;
     }
+    if (!passaRegras(m_d.regrasExcluir, Operacao::Excluir, m_botoes->cmdExcluir))
+        return;
     const QString pergunta = m_d.perguntaExcluir ? m_d.perguntaExcluir(*this) : QStringLiteral("Deseja realmente excluir?");
     if (MsgBox(pergunta, Msg::YesNo | Msg::Information) != Msg::Yes)
         return;

@@ -62,8 +62,8 @@ struct CampoBloco {
     std::function<void(QWidget* campo, ExecutorBloco& bloco)> ajusta = nullptr;
 };
 
-// Incluir or Alterar, for the checks and the writing hooks.
-enum class Operacao { Incluir, Alterar };
+// Incluir, Alterar or Excluir, for the checks and the writing hooks.
+enum class Operacao { Incluir, Alterar, Excluir };
 
 // One check of a block, in the order of the description: `teste` gives the message of a refusal, or "" to go
 // on. `foco` is the objectName of the control that gets the focus (a field, a picker button, a button);
@@ -99,6 +99,8 @@ struct DescricaoBloco {
     std::function<QList<OpcaoLista>(const QString& campo, const ExecutorBloco& bloco)> opcoes;
     // With checks listed, they replace the empty-field messages of the fields and the duplicate test.
     QList<RegraBloco> regras;
+    // Checks of Excluir, after the test of a chosen row and before the question.
+    QList<RegraBloco> regrasExcluir;
     // The grid's rows, each in the order of colunasGrade, when they do not come from the one table.
     std::function<QList<QStringList>(const QVariant& pai)> linhas;
     // Writes the fields for Incluir or Alterar (AlteracaoPendente is already set), instead of the one row.
@@ -211,7 +213,7 @@ private:
     bool validaCampos();
     QVariantList chaveDosCampos() const;
     QStringList colunasConsulta() const;
-    bool passaRegras(Operacao op, QWidget* botao);
+    bool passaRegras(const QList<RegraBloco>& regras, Operacao op, QWidget* botao);
     void ligaAlvos();
     int colunaDaGrade(const QString& coluna) const;
     void recusa(const QString& texto, QWidget* foco);

@@ -56,10 +56,13 @@ Nomes nomesInsumo(bool individual)
     n.individual = individual;
     n.ncm = individual ? QStringLiteral("mskPIsemPPBNFS(5)") : QStringLiteral("mskNumNCMInsumo");
     n.descrNcm = QStringLiteral("txtDescrNCMInsumo_tabPIsemPPB");
-    n.botaoNcm = QStringLiteral("cmdAssistenteNCMInsumo_tabPIsemPPB");
+    // No name is given to the input's pickers: theirs follow the product page's, with "Insumo" for "Produto".
+    n.botaoNcm = individual ? QStringLiteral("cmdAssistenteNCMInsumo_tabPIsemPPB_NFS")
+                            : QStringLiteral("cmdAssistenteNCMInsumo_tabPIsemPPB_CCI");
     n.produto = QStringLiteral("txtCodInsPIsemPPB");
     n.descrProduto = QStringLiteral("txtDescrInsPIsemPPB");
-    n.botaoProduto = QStringLiteral("cmdAssistenteCCIInsumo_tabPIsemPPB");
+    n.botaoProduto = individual ? QStringLiteral("cmdAssistenteCClInsumo_tabPIsemPPB_NFS")
+                                : QStringLiteral("cmdAssistenteCClInsumo_tabPIsemPPB_CCI");
     n.chave = individual ? QStringLiteral("insumo") : QStringLiteral("InsumoPIsemPPBMensal");
     n.unidade = QStringLiteral("cboUnidadeInsumo");
     n.quantidade = individual ? QStringLiteral("mskPIsemPPBNFS(6)") : QStringLiteral("mskPIsemPPB(4)");
@@ -535,6 +538,16 @@ DescricaoBloco Insumo(bool individual, std::function<QString()> idVrt)
         else
             Itens::IncluiInsumoMensal(pai.toLongLong(), insumo, a);
     };
+    if (!individual)
+        // With a row chosen: the product list emptied meanwhile, or the code typed away.
+        d.regrasExcluir = {regra([](const ExecutorBloco& b) {
+                               return b.pai().toLongLong() > 0 ? QString() : QStringLiteral("Selecione um produto");
+                           }),
+                           regra([n](const ExecutorBloco& b) {
+                               return b.valor(n.produto).trimmed().isEmpty()
+                                          ? QStringLiteral("Para excluir de um duplo clique na linha do grid a ser excluída")
+                                          : QString();
+                           }, QStringLiteral("cmdExcluirInsumo"))};
     d.apaga = [individual, idVrt](const ExecutorBloco& b, const QVariant&) {
         const QVariant id = b.chaveSelecionada().value(0);
         if (individual)

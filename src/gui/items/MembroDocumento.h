@@ -5,12 +5,8 @@
 // the rules of the digit fields, the messages, the enabling and child-row conditions, the currency picker
 // keys, the grid. QuadroDocumento runs any member; no member has code of its own.
 //
-// Adding a member is adding an entry to the table in MembroDocumento.cpp (see membros()), e.g. the input's DI
-// of the monthly editor: its TabelaDocumento (ITEM_DI_INS_MEN under ID_VRT_MICRO, CD_INT_INSUMO,
-// CD_LOCAL_DESTINO, child ITEM_IMPORT_288_INS_MEN), its control names (mskNumDI_PIsemPPBDI, txtPIsemPPBDI(1)..),
-// its messages ("Di incorreta!"), habilitacao = DecretoOuSuspensao, filhaNaInclusao = Decreto,
-// filhaNaAlteracao = DecretoOuSuspensao, and the keys "InsumoPISemPPBMensalDIIns".. . The page of the input's
-// tab then asks Membro(TipoDocumento::DI, Origem::Insumo, false) and gives the frame its parent key.
+// The twelve members (three kinds, two origins, two editors) are built in MembrosDI.cpp, MembrosDSI.cpp and
+// MembrosNFA.cpp, each kind from one table of its four members' control names, columns and messages.
 #include "core/store/DocumentoEntrada.h"
 
 #include <QList>
@@ -85,6 +81,9 @@ struct MembroDocumento {
     TabelaDocumento dados;
     QMap<Papel, QString> nomes;    // objectName of each control the member has
     QMap<Papel, QString> colunas;  // the column each value goes to, in the line or in its child row
+    // Columns of the line written from what the page chose rather than from a field: column -> the page's text
+    // ("#nome", the input's name).
+    QMap<QString, QString> colunasDoPai;
     QString colunaNumeroAntiga;    // year, issuing body and sequence run together
     QMap<Papel, RegraDigitos> regras;
     QMap<Papel, QString> rotulos;  // labels that differ between members
@@ -138,7 +137,7 @@ struct MembroDocumento {
     QList<ColunaDocumento> grade;
 };
 
-// Every member described so far.
+// Every member of the family.
 const QList<MembroDocumento>& MembrosDocumento();
-// The member of that kind, origin and editor; nullptr when it is not described yet.
+// The member of that kind, origin and editor.
 const MembroDocumento* Membro(TipoDocumento tipo, Origem origem, bool individual);

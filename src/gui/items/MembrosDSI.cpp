@@ -1,5 +1,6 @@
-// The DSI of a foreign product: the DI's frame without the Decreto-Lei 288/67 and the obsolescence, a "Número do
-// bem" in place of adição and item, and the three value blocks in the line itself, open only under suspension.
+// The DSI of a foreign product and of an input, in both editors: the DI's frame without the Decreto-Lei 288/67 and
+// the obsolescence, a "Número do bem" in place of adição and item, and the three value blocks in the line itself,
+// open only under suspension.
 #include "gui/items/MembrosFamilia.h"
 
 namespace {
@@ -13,132 +14,131 @@ const QString MaiorQueZero = t("Campo deve ser maior que zero.");
 const QString Invalido = t("Campo inválido.");
 const QString SeisDigitos = t("Informe número de 6 dígitos.");
 
-// Unlike the DI, a monthly year of zero passes; the individual editor bounds the year by 50 and 99.
-QMap<Papel, RegraDigitos> regras(bool individual)
+using MembrosFamilia::PorPapel;
+using MembrosFamilia::Quatro;
+using MembrosFamilia::Um;
+
+const QList<PorPapel> Nomes{
+    {Papel::Numero, {"txtNumDSI_PE", "mskProdutoEstrangeiroDSI(0)", "mskPIsemPPB(21)", "mskPIsemPPBDSI(0)"}},
+    {Papel::Ano, {"txtAnoDSI_PE", "txtProdutoEstrangeiroDSI(0)", "txtPIsemPPBDSI(1)", "txtPIsemPPBDSI(0)"}},
+    {Papel::Orgao, {"txtOrgaoDSI_PE", "txtProdutoEstrangeiroDSI(1)", "txtPIsemPPBDSI(2)", "txtPIsemPPBDSI(1)"}},
+    {Papel::Sequencial, {"txtSequencialDSI_PE", "txtProdutoEstrangeiroDSI(2)", "txtPIsemPPBDSI(3)", "txtPIsemPPBDSI(2)"}},
+    {Papel::NumeroBem, {"txtNumBemDSI_PE", "txtProdutoEstrangeiroDSI(3)", "txtPIsemPPBDSI(4)", "txtPIsemPPBDSI(3)"}},
+    {Papel::Quantidade, {"mskQtUnidMedComDSI_PE", "mskProdutoEstrangeiroDSI(1)", "mskPIsemPPB(19)", "mskPIsemPPBDSI(1)"}}};
+
+const QList<PorPapel> Colunas{
+    {Papel::Numero, {"NR_DSI", "NR_DSI", "NR_DSI", "NR_DSI"}},
+    {Papel::NumeroBem, {"NR_BEM", "NR_BEM", "NR_BEM", "NR_BEM"}},
+    {Papel::Quantidade, {"QT_PROD_UNID_PROD", "QT_PROD_UNID_NFS", "QT_INSUMO_UNID_INS", "QT_INSUMO_UNID_NFS"}},
+    {Papel::Suspensao, {"IND_SUSP_PIS_COFINS", "IND_SUSP_PIS_COFINS", "IND_SUSP_PIS_COFINS", "IND_SUSP_PIS_COFINS"}},
+    {Papel::Valor0, {"VL_PROD_UNID_PROD", "VL_PROD_UNID_PROD", "VL_PROD_UNID_PROD", "VL_INS_UNID_PROD"}},
+    {Papel::Valor1, {"VL_FRETE_UNID_INT", "VL_FRETE_UNID_INT", "VL_FRETE_UNID_INT", "VL_FRETE_UNID_INT"}},
+    {Papel::Valor2, {"VL_SEGURO_UNID_INT", "VL_SEGURO_UNID_INT", "VL_SEGURO_UNID_INT", "VL_SEGURO_UNID_INT"}}};
+
+// Unlike the DI, a monthly year of zero passes; the individual editor bounds the year by 50 and 99. The monthly
+// zero messages of the body and the sequence differ between the product and the input.
+QMap<Papel, RegraDigitos> regras(int k)
 {
-    if (individual)
+    if (k % 2 == 1)
         return {{Papel::Ano, {2, QString(), Invalido, 50, 99, true}},
                 {Papel::Orgao, {7, MaiorQueZero, Invalido, -1, -1, true}},
                 {Papel::Sequencial, {6, MaiorQueZero, SeisDigitos, -1, -1, true}},
                 {Papel::NumeroBem, {0, MaiorQueZero, QString(), -1, -1, true, 3}}};
+    const bool insumo = k == 2;
     return {{Papel::Ano, {2, QString(), Invalido}},
-            {Papel::Orgao, {7, t("O campo orgão não pode ser igual a zero."), Invalido}},
-            {Papel::Sequencial, {6, t("O campo seqüencial não pode ser igual a zeros."), SeisDigitos}},
+            {Papel::Orgao, {7, insumo ? t("O número do orgão não pode ser zero.") : t("O campo orgão não pode ser igual a zero."),
+                            Invalido}},
+            {Papel::Sequencial, {6, insumo ? t("O número do seqüencial não pode ser zero.")
+                                           : t("O campo seqüencial não pode ser igual a zeros."),
+                                 SeisDigitos}},
             {Papel::NumeroBem, {0, t("O número do bem não pode ser zero."), Invalido, -1, -1, false, 3}}};
 }
 
-QStringList colunasLinha(bool individual)
+TabelaDocumento dados(const MembroDocumento& m, int k)
 {
-    const QStringList valores{t("CD_MOEDA_NEG"), t("VL_PROD_UNID_PROD"), t("CD_MOEDA_FRETE"), t("VL_FRETE_UNID_INT"),
-                              t("CD_MOEDA_SEGURO"), t("VL_SEGURO_UNID_INT")};
-    if (individual)
-        return QStringList{t("NR_DSI"), t("NR_BEM"), t("NR_DSI_ANTIGA"), t("QT_PROD_UNID_NFS"), t("IND_SUSP_PIS_COFINS")}
-               + valores;
-    return QStringList{t("NR_DSI"), t("NR_DSI_ANTIGA"), t("NR_BEM"), t("QT_PROD_UNID_PROD"), t("IND_SUSP_PIS_COFINS")}
-           + valores;
+    QStringList linha = m.individual ? QStringList{t("NR_DSI"), t("NR_BEM"), t("NR_DSI_ANTIGA")}
+                                     : QStringList{t("NR_DSI"), t("NR_DSI_ANTIGA"), t("NR_BEM")};
+    for (Papel p : {Papel::Quantidade, Papel::Suspensao, Papel::Moeda0, Papel::Valor0, Papel::Moeda1, Papel::Valor1,
+                    Papel::Moeda2, Papel::Valor2})
+        linha << m.colunas.value(p);
+    const Quatro tabelas{"ITEM_DSI_PE_MEN", "ITEM_DSI_PE_IND", "ITEM_DSI_INS_MEN", "ITEM_DSI_INS_IND"};
+    const QList<QStringList> pais{{t("ID_DEST_PRODUTO")},
+                                  {t("ID_ITEM")},
+                                  {t("ID_VRT_MICRO"), t("CD_INT_INSUMO"), t("CD_LOCAL_DESTINO")},
+                                  {t("ID_INSUMO")}};
+    return {Um(tabelas, k), t("ID_ITEM_DSI"), pais.at(k), linha, {}, {}, {}};
+}
+
+void mensagens(MembroDocumento& m, int k)
+{
+    m.msgZeroDecimal = m.individual ? MaiorQueZero : t("Este campo não pode ser igual a zero.");
+    m.tipoDigito = t("DSI");
+    m.msgNumeroInvalido = t("Número da DSI inválido.");
+    if (m.individual) {
+        m.msgNumeroIncompleto = t("Número deve ter 10 dígitos.");
+        m.prefixoRecusado = {50, 98};
+        m.msgPrefixoRecusado = Invalido;
+    }
+    m.msgNumeroVazio = t("O campo número da DSI deve ser preenchido.");
+    m.msgNumeroZero = Um({"DSI não pode ser igual a zeros.", "DSI não pode ser igual a zeros.", nullptr, nullptr}, k);
+    // The product's message has no full stop, the monthly input's has one; the individual input has no such test.
+    m.msgNumeroCurto = Um({"DSI incorreta", "DSI incorreta", "DSI incorreta.", nullptr}, k);
+    m.msgAntigaVazia = t("Os campos ano, órgão e seqüencial devem ser preenchidos.");
+    m.passos = {{Teste::Vazio, Papel::NumeroBem,
+                 Um({"Este campo não pode ser nulo.", "Este campo não pode ser nulo.",
+                     "O campo número do bem não pode ser nulo.", "O campo número do bem deve ser preenchido."},
+                    k)},
+                {Teste::Vazio, Papel::Quantidade,
+                 Um({"Este campo não pode ser nulo", "Este campo não pode ser nulo",
+                     "O campo quantidade comercial não pode ser nulo.", "O campo quantidade deve ser preenchido."},
+                    k)}};
+    // The monthly input's words speak of adição and item although a DSI has none.
+    m.msgDuplicadoEletronica = Um({"O conjunto Número/Número do Bem da DSI eletrônica já foi incluído.", "DSI já incluída.",
+                                   "O conjunto DSI/Adição/Item já encontra-se incluído.", "DSI já incluída."},
+                                  k);
+    m.msgDuplicadoAntiga = Um({"O conjunto Ano/Orgão/Seqüencial/Número do Bem da DSI já foi incluído.", "DSI já incluída.",
+                               "O conjunto Ano/Órgão/Seqüencial/Adição/Item já encontra-se incluído.", "DSI já incluída."},
+                              k);
+    m.msgDuplicadoAlteracao = m.individual ? QString() : t("DSI já incluída.");
+}
+
+QList<ColunaDocumento> grade(const MembroDocumento& m)
+{
+    QList<ColunaDocumento> g = MembrosFamilia::ColunasDoPai(m.origem, m.individual);
+    if (m.individual)
+        return g << ColunaDocumento{t("Núm. DSI"), t("NR_DSI"), t("@@/@@@@@@@-@"), 100}
+                 << ColunaDocumento{t("Núm. DSI Antiga"), t("NR_DSI_ANTIGA"), QString(), 120}
+                 << ColunaDocumento{t("Número do Bem"), t("NR_BEM"), QString(), 90};
+    return g << ColunaDocumento{t("Nº DSI"), t("NR_DSI"), t("@@/@@@@@@@-@"), 100}
+             << ColunaDocumento{t("Nº DSI Antiga"), t("NR_DSI_ANTIGA"), QString(), 120}
+             << ColunaDocumento{t("Nº do Bem"), t("NR_BEM"), QString(), 70}
+             << ColunaDocumento{t("Quantidade"), m.colunas.value(Papel::Quantidade), t("#,##0.00000"), 110};
 }
 
 }  // namespace
 
 namespace MembrosFamilia {
 
-MembroDocumento dsiProduto(bool individual)
+MembroDocumento dsi(Origem origem, bool individual)
 {
-    MembroDocumento m;
-    m.tipo = TipoDocumento::DSI;
-    m.origem = Origem::Produto;
-    m.individual = individual;
-    const QString quantidade = individual ? t("QT_PROD_UNID_NFS") : t("QT_PROD_UNID_PROD");
-    m.dados = {individual ? t("ITEM_DSI_PE_IND") : t("ITEM_DSI_PE_MEN"), t("ID_ITEM_DSI"),
-               {individual ? t("ID_ITEM") : t("ID_DEST_PRODUTO")}, colunasLinha(individual)};
-    m.nomes = {{Papel::Sim, t("optPosterior1997_tabProdutoEstrangeiro_DSI")},
-               {Papel::Nao, t("optAnterior1997_tabProdutoEstrangeiro_DSI")},
-               {Papel::Suspensao, t("chk_Suspensao_DSI_TabPE")},
-               {Papel::Moeda0, t("txtMoedaDSI_PE(0)")},
-               {Papel::Moeda1, t("txtMoedaDSI_PE(1)")},
-               {Papel::Moeda2, t("txtMoedaDSI_PE(2)")},
-               {Papel::Valor0, t("mskVlUnitMedidaDSI_PE(0)")},
-               {Papel::Valor1, t("mskVlUnitMedidaDSI_PE(1)")},
-               {Papel::Valor2, t("mskVlUnitMedidaDSI_PE(2)")}};
-    if (individual) {
-        m.nomes.insert(Papel::Numero, t("mskProdutoEstrangeiroDSI(0)"));
-        m.nomes.insert(Papel::Ano, t("txtProdutoEstrangeiroDSI(0)"));
-        m.nomes.insert(Papel::Orgao, t("txtProdutoEstrangeiroDSI(1)"));
-        m.nomes.insert(Papel::Sequencial, t("txtProdutoEstrangeiroDSI(2)"));
-        m.nomes.insert(Papel::NumeroBem, t("txtProdutoEstrangeiroDSI(3)"));
-        m.nomes.insert(Papel::Quantidade, t("mskProdutoEstrangeiroDSI(1)"));
-    } else {
-        m.nomes.insert(Papel::Numero, t("txtNumDSI_PE"));
-        m.nomes.insert(Papel::Ano, t("txtAnoDSI_PE"));
-        m.nomes.insert(Papel::Orgao, t("txtOrgaoDSI_PE"));
-        m.nomes.insert(Papel::Sequencial, t("txtSequencialDSI_PE"));
-        m.nomes.insert(Papel::NumeroBem, t("txtNumBemDSI_PE"));
-        m.nomes.insert(Papel::Quantidade, t("mskQtUnidMedComDSI_PE"));
-    }
-    m.colunas = {{Papel::Numero, t("NR_DSI")},
-                 {Papel::NumeroBem, t("NR_BEM")},
-                 {Papel::Quantidade, quantidade},
-                 {Papel::Suspensao, t("IND_SUSP_PIS_COFINS")},
-                 {Papel::Moeda0, t("CD_MOEDA_NEG")},
-                 {Papel::Valor0, t("VL_PROD_UNID_PROD")},
-                 {Papel::Moeda1, t("CD_MOEDA_FRETE")},
-                 {Papel::Valor1, t("VL_FRETE_UNID_INT")},
-                 {Papel::Moeda2, t("CD_MOEDA_SEGURO")},
-                 {Papel::Valor2, t("VL_SEGURO_UNID_INT")}};
+    const int k = Indice(origem, individual);
+    MembroDocumento m = Inicia(TipoDocumento::DSI, origem, individual, t("DSI"));
+    m.nomes = Mapa(Nomes, k);
+    PoeNomesDeclaracao(m, t("DSI"));
+    m.colunas = Mapa(Colunas + Moedas(), k);
+    m.dados = dados(m, k);
     m.colunaNumeroAntiga = t("NR_DSI_ANTIGA");
-    m.regras = regras(individual);
+    m.regras = regras(k);
     m.rotulos = {{Papel::Suspensao, t("DSI com suspensão de PIS/PASEP e COFINS (Lei n° 10.865/2004)")},
                  {Papel::Quantidade, t("Quant. comercial em ")}};
-    m.msgZeroDecimal = individual ? MaiorQueZero : t("Este campo não pode ser igual a zero.");
-    m.tipoDigito = t("DSI");
-    m.msgNumeroInvalido = t("Número da DSI inválido.");
-    if (individual) {
-        m.msgNumeroIncompleto = t("Número deve ter 10 dígitos.");
-        m.prefixoRecusado = {50, 98};
-        m.msgPrefixoRecusado = Invalido;
-    }
-    m.msgNumeroVazio = t("O campo número da DSI deve ser preenchido.");
-    m.msgNumeroZero = t("DSI não pode ser igual a zeros.");
-    m.msgNumeroCurto = t("DSI incorreta");
-    m.msgAntigaVazia = t("Os campos ano, órgão e seqüencial devem ser preenchidos.");
-    m.passos = {{Teste::Vazio, Papel::NumeroBem, t("Este campo não pode ser nulo.")},
-                {Teste::Vazio, Papel::Quantidade, t("Este campo não pode ser nulo")}};
+    mensagens(m, k);
     m.chaveDuplicado = {Papel::NumeroBem};
-    if (individual) {
-        m.msgDuplicadoEletronica = t("DSI já incluída.");
-        m.msgDuplicadoAntiga = t("DSI já incluída.");
-        m.msgSemPai = t("Não foi escolhido produto para documento de origem.");
-        m.msgSemSelecaoAlterar = t("Inclua ou selecione um documento.");
-        m.msgSemSelecaoExcluir = t("Inclua ou selecione um documento.");
-    } else {
-        m.msgDuplicadoEletronica = t("O conjunto Número/Número do Bem da DSI eletrônica já foi incluído.");
-        m.msgDuplicadoAntiga = t("O conjunto Ano/Orgão/Seqüencial/Número do Bem da DSI já foi incluído.");
-        m.msgDuplicadoAlteracao = t("DSI já incluída.");
-        m.msgSemSelecaoAlterar = t("Inclua um documento ou selecione no grid");
-        m.msgSemSelecaoExcluir = t("Inclua um documento ou selecione no grid");
-    }
     m.habilitacao = Condicao::Suspensao;
     m.esvaziaBlocosAoMudar = true;
-    m.chavesMoeda = individual
-                        ? QStringList{t("produtoPEDSIProd"), t("produtoPEDSIFI"), t("produtoPEDSISI")}
-                        : QStringList{t("produtoPEMensalDSIProd"), t("produtoPEMensalDSIFI"), t("produtoPEMensalDSISI")};
-    m.titulosBlocos = {t("Produto"), t("Frete Internacional"), t("Seguro Internacional")};
-    m.nomeQuadro = t("fraDSI_tabProdutoEstrangeiro");
-    m.nomeRotuloQuantidade = t("lblQuantidadeDSI_PE");
-    m.nomeGrade = t("grdConsultaDSI_tabProdutoEstrangeiro");
-    if (individual)
-        m.grade = {{t("Item"), t("#item"), QString(), 40},
-                   {t("Código do Produto"), t("#produto"), QString(), 110},
-                   {t("Núm. DSI"), t("NR_DSI"), t("@@/@@@@@@@-@"), 100},
-                   {t("Núm. DSI Antiga"), t("NR_DSI_ANTIGA"), QString(), 120},
-                   {t("Número do Bem"), t("NR_BEM"), QString(), 90}};
-    else
-        m.grade = {{t("Código do produto"), t("#produto"), QString(), 110},
-                   {t("Local de destino"), t("#local"), QString(), 130},
-                   {t("Nº DSI"), t("NR_DSI"), t("@@/@@@@@@@-@"), 100},
-                   {t("Nº DSI Antiga"), t("NR_DSI_ANTIGA"), QString(), 120},
-                   {t("Nº do Bem"), t("NR_BEM"), QString(), 70},
-                   {t("Quantidade"), quantidade, t("#,##0.00000"), 110}};
+    m.chavesMoeda = ChavesMoeda(Um({"produtoPEMensalDSI", "produtoPEDSI", "InsumoPISemPPBMensalDSI", "InsumoPISemPPBDSI"}, k),
+                                origem);
+    m.titulosBlocos = TitulosBlocos(origem);
+    m.grade = grade(m);
     return m;
 }
 

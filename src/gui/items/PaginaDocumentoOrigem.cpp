@@ -4,16 +4,13 @@
 #include "core/session/MsgBox.h"
 #include "core/store/OrigemDocumento.h"
 #include "gui/blocks/QuatroBotoes.h"
-#include "gui/items/QuadroDocumento.h"
+#include "gui/items/EscolhaDocumento.h"
 
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QVBoxLayout>
 
 namespace {
@@ -22,10 +19,6 @@ QString t(const char* s)
 {
     return QString::fromUtf8(s);
 }
-
-const char* NomesOpcoes[3] = {"optDI_tabProdutoEstrangeiro", "optDSI_tabProdutoEstrangeiro",
-                              "optNFA_tabProdutoEstrangeiro"};
-const char* LegendasOpcoes[3] = {"DI", "DSI", "NF"};
 
 QComboBox* lista(const QString& nome, QWidget* pai)
 {
@@ -51,45 +44,20 @@ PaginaDocumentoOrigem::PaginaDocumentoOrigem(bool individual, std::function<QStr
     auto* coluna = new QVBoxLayout(this);
     auto* topo = new QGridLayout;
     constroiPickers(topo);
-    auto* tipos = new QGroupBox(t("Documento de Entrada"), this);
-    tipos->setObjectName(t("fraDocumentoEntrada_tabProdutoEstrangeiro"));
-    auto* linhaTipos = new QHBoxLayout(tipos);
-    for (int i = 0; i < 3; ++i) {
-        opcoes[i] = new QRadioButton(t(LegendasOpcoes[i]), tipos);
-        opcoes[i]->setObjectName(t(NomesOpcoes[i]));
-        linhaTipos->addWidget(opcoes[i]);
-        connect(opcoes[i], &QRadioButton::clicked, this, [this, i] { escolheTipo(i); });
-    }
-    topo->addWidget(tipos, 0, 3, 2, 1);
+    m_docs = new EscolhaDocumento({Origem::Produto, individual, t("Documento de Entrada"),
+                                   t("fraDocumentoEntrada_tabProdutoEstrangeiro"), t("_tabProdutoEstrangeiro"),
+                                   individual ? t("cmd%1_TabPE") : t("cmd%1_tabProdutoEstrangeiro"), QString()},
+                                  this);
+    for (int i = 0; i < 3; ++i)
+        opcoes[i] = m_docs->opcoes[i];
+    botoes = m_docs->botoes;
+    topo->addWidget(m_docs->tipos, 0, 3, 2, 1);
     coluna->addLayout(topo);
-    botoes = new QuatroBotoes(individual ? t("cmd%1_TabPE") : t("cmd%1_tabProdutoEstrangeiro"), this);
     coluna->addWidget(botoes);
-    for (int tipo = 0; tipo < 3; ++tipo) {
-        const MembroDocumento* m = Membro(static_cast<TipoDocumento>(tipo), Origem::Produto, individual);
-        if (!m)
-            continue;
-        auto* q = new QuadroDocumento(*m, this);
-        m_quadros.insert(tipo, q);
-        coluna->addWidget(q, 1);
-        connect(q, &QuadroDocumento::selecaoMudou, botoes, &QuatroBotoes::habilitaSelecao);
-    }
-    coluna->addStretch(0);
-    connect(botoes->cmdIncluir, &QPushButton::clicked, this, [this] {
-        if (QuadroDocumento* q = atual())
-            q->incluir();
-    });
-    connect(botoes->cmdAlterar, &QPushButton::clicked, this, [this] {
-        if (QuadroDocumento* q = atual())
-            q->alterar();
-    });
-    connect(botoes->cmdExcluir, &QPushButton::clicked, this, &PaginaDocumentoOrigem::excluir);
-    connect(botoes->cmdLimpar, &QPushButton::clicked, this, [this] {
-        if (QuadroDocumento* q = atual()) {
-            q->limpa();
-            q->carrega();
-        }
-    });
-    reinicia();
+    m_docs->poeQuadros(coluna);
+    m_docs->podeEscolher = [this] { return podeEscolher(); };
+    if (!individual)
+        m_docs->paiDasLinhas = [this] { return QVariantList{cboLocalDestinoProduto->currentData()}; };
 }
 
 void PaginaDocumentoOrigem::constroiPickers(QGridLayout* g)
@@ -120,23 +88,9 @@ void PaginaDocumentoOrigem::constroiPickers(QGridLayout* g)
     connect(cboLocalDestinoProduto, &QComboBox::activated, this, &PaginaDocumentoOrigem::escolheDestino);
 }
 
-// No kind chosen: the three choices off, the frames, grids and buttons hidden.
-void PaginaDocumentoOrigem::reinicia()
-{
-    m_tipo = -1;
-    for (QRadioButton* o : opcoes) {
-        o->setAutoExclusive(false);
-        o->setChecked(false);
-        o->setAutoExclusive(true);
-    }
-    for (QuadroDocumento* q : std::as_const(m_quadros))
-        q->hide();
-    botoes->hide();
-}
-
 bool PaginaDocumentoOrigem::entra()
 {
-    reinicia();
+    m_docs->reinicia();
     if (m_individual) {
         cboItem->clear();
         txtCodigoControleInternoProduto->clear();
@@ -171,7 +125,7 @@ bool PaginaDocumentoOrigem::entra()
 
 void PaginaDocumentoOrigem::escolheProduto()
 {
-    reinicia();
+    m_docs->reinicia();
     cboLocalDestinoProduto->clear();
     txtQuantLocalPEDocOrigem->clear();
     const qint64 item = cboDocProdutoPE->currentData().toLongLong();
@@ -182,8 +136,7 @@ void PaginaDocumentoOrigem::escolheProduto()
     for (const auto& i : OrigemDocumento::ItensMensais(m_idVrt(), QStringLiteral("1")))
         if (i.id == item)
             unidade = i.unidade;
-    for (QuadroDocumento* q : std::as_const(m_quadros))
-        q->defineUnidade(unidade);
+    m_docs->defineUnidade(unidade);
     definePai();
 }
 
@@ -195,14 +148,13 @@ void PaginaDocumentoOrigem::escolheDestino()
         if (d.id == destino)
             txtQuantLocalPEDocOrigem->setText(Funcoes::FormataNumero(d.quantidade, QStringLiteral("#,##0.00000")));
     definePai();
-    if (QuadroDocumento* q = atual())
-        q->carrega();
+    m_docs->recarrega();
 }
 
 void PaginaDocumentoOrigem::escolheItem()
 {
     if (cboItem->currentIndex() < 0) {
-        reinicia();
+        m_docs->reinicia();
         txtCodigoControleInternoProduto->clear();
         txtQuantidadeTotalProduto->clear();
         definePai();
@@ -214,12 +166,10 @@ void PaginaDocumentoOrigem::escolheItem()
             continue;
         txtCodigoControleInternoProduto->setText(i.codigo);
         txtQuantidadeTotalProduto->setText(Funcoes::FormataNumero(i.quantidade, QStringLiteral("#,##0.00000")));
-        for (QuadroDocumento* q : std::as_const(m_quadros))
-            q->defineUnidade(i.unidade);
+        m_docs->defineUnidade(i.unidade);
     }
     definePai();
-    if (QuadroDocumento* q = atual())
-        q->carrega();
+    m_docs->recarrega();
 }
 
 // The parent key and the grid's texts for it, from the pickers as they stand.
@@ -238,53 +188,25 @@ void PaginaDocumentoOrigem::definePai()
         textos.insert(t("#produto"), cboDocProdutoPE->currentText());
         textos.insert(t("#local"), cboLocalDestinoProduto->currentText());
     }
-    for (QuadroDocumento* q : std::as_const(m_quadros))
-        q->definePai(pai, textos);
+    m_docs->definePai(pai, textos);
 }
 
-void PaginaDocumentoOrigem::escolheTipo(int tipo)
+bool PaginaDocumentoOrigem::podeEscolher()
 {
-    if (!m_individual) {
-        QComboBox* falta = cboDocProdutoPE->currentIndex() < 0          ? cboDocProdutoPE
-                           : cboLocalDestinoProduto->currentIndex() < 0 ? cboLocalDestinoProduto
-                                                                       : nullptr;
-        if (falta) {
-            MsgBox(falta == cboDocProdutoPE ? t("Selecione um produto antes") : t("Selecione um local de destino antes"),
-                   Msg::OKOnly | Msg::Critical);
-            reinicia();
-            falta->setFocus(Qt::OtherFocusReason);
-            return;
-        }
-    }
-    mostraTipo(tipo);
+    if (m_individual)
+        return true;
+    QComboBox* falta = cboDocProdutoPE->currentIndex() < 0          ? cboDocProdutoPE
+                       : cboLocalDestinoProduto->currentIndex() < 0 ? cboLocalDestinoProduto
+                                                                   : nullptr;
+    if (!falta)
+        return true;
+    MsgBox(falta == cboDocProdutoPE ? t("Selecione um produto antes") : t("Selecione um local de destino antes"),
+           Msg::OKOnly | Msg::Critical);
+    falta->setFocus(Qt::OtherFocusReason);
+    return false;
 }
 
-void PaginaDocumentoOrigem::mostraTipo(int tipo)
+QuadroDocumento* PaginaDocumentoOrigem::quadro(TipoDocumento tipo) const
 {
-    m_tipo = tipo;
-    for (auto i = m_quadros.cbegin(); i != m_quadros.cend(); ++i)
-        i.value()->setVisible(i.key() == tipo);
-    botoes->show();
-    if (QuadroDocumento* q = atual()) {
-        q->limpa();
-        q->carrega();
-    }
-}
-
-QuadroDocumento* PaginaDocumentoOrigem::atual() const
-{
-    return m_quadros.value(m_tipo);
-}
-
-void PaginaDocumentoOrigem::excluir()
-{
-    QuadroDocumento* q = atual();
-    if (!q || !q->excluir() || m_individual)
-        return;
-    // A destination left with no document of any kind shows the page as when it was entered.
-    QList<TabelaDocumento> tabelas;
-    for (const QuadroDocumento* outro : std::as_const(m_quadros))
-        tabelas << outro->membro().dados;
-    if (!DocumentoEntrada::TemLinhas(tabelas, {cboLocalDestinoProduto->currentData()}))
-        reinicia();
+    return m_docs->quadro(tipo);
 }

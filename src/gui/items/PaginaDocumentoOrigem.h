@@ -1,7 +1,6 @@
 #pragma once
 // The page "Documento de Origem" of the foreign-product tab: the product and destination pickers (monthly) or
-// the item picker (individual), the choice of the document kind, the four buttons that act on the kind in force,
-// and one QuadroDocumento per kind whose member is described.
+// the item picker (individual) above the document kinds of EscolhaDocumento.
 #include "gui/items/MembroDocumento.h"
 
 #include <QWidget>
@@ -9,6 +8,7 @@
 class QComboBox;
 class QLineEdit;
 class QRadioButton;
+class EscolhaDocumento;
 class QuadroDocumento;
 class QuatroBotoes;
 
@@ -22,8 +22,8 @@ public:
     // Entering the page: pickers reloaded, choices cleared, frames hidden. False (after its message) when the
     // declaration has no foreign product yet, so that the tab goes back to "Produto".
     bool entra();
-    // The frame of a kind; nullptr when its member is not described.
-    QuadroDocumento* quadro(TipoDocumento tipo) const { return m_quadros.value(static_cast<int>(tipo)); }
+    // The frame of a kind.
+    QuadroDocumento* quadro(TipoDocumento tipo) const;
 
     QComboBox* cboDocProdutoPE = nullptr;         // monthly
     QComboBox* cboLocalDestinoProduto = nullptr;  // monthly
@@ -40,19 +40,15 @@ signals:
 
 private:
     void constroiPickers(class QGridLayout* g);
-    void reinicia();
     void escolheProduto();
     void escolheDestino();
     void escolheItem();
-    void escolheTipo(int tipo);
-    void mostraTipo(int tipo);
+    // A kind may be chosen once the product and its destination are (monthly).
+    bool podeEscolher();
     void definePai();
-    QuadroDocumento* atual() const;
-    void excluir();
 
     bool m_individual;
     std::function<QString()> m_idVrt;
     std::function<qint64()> m_idNfs;
-    QMap<int, QuadroDocumento*> m_quadros;
-    int m_tipo = -1;
+    EscolhaDocumento* m_docs = nullptr;
 };

@@ -4,18 +4,16 @@
 #include "core/session/MsgBox.h"
 #include "core/session/modVRTPLN.h"
 #include "core/store/ItensPIsemPPB.h"
-#include "core/store/DocumentoEntrada.h"
 #include "gui/blocks/QuatroBotoes.h"
+#include "gui/items/EscolhaDocumento.h"
 #include "gui/items/QuadroDocumento.h"
 #include "gui/widgets/DecimalField.h"
 
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
 
@@ -26,87 +24,65 @@ PaginaDocumentosInsumo::PaginaDocumentosInsumo(bool individual, std::function<QS
     : QWidget(parent), m_individual(individual), m_idVrt(std::move(idVrt)), m_idNfs(std::move(idNfs))
 {
     auto* coluna = new QVBoxLayout(this);
+    coluna->addWidget(constroiQuadro());
+    m_docs = new EscolhaDocumento({Origem::Insumo, individual, QStringLiteral("Documento Entrada"),
+                                   QStringLiteral("fraDocumentoEntrada_tabPIsemPPB"), QStringLiteral("_tabPIsemPPB"),
+                                   QStringLiteral("cmd%1_tabPIsemPPB"), QStringLiteral("cmdLimpar_TabPIsemPPB")},
+                                  this);
+    for (int i = 0; i < 3; ++i)
+        opcoes[i] = m_docs->opcoes[i];
+    botoes = m_docs->botoes;
+    coluna->addWidget(m_docs->tipos);
+    coluna->addWidget(botoes);
+    m_docs->poeQuadros(coluna);
+    m_docs->podeEscolher = [this] { return podeEscolher(); };
+    if (!individual)
+        m_docs->paiDasLinhas = [this] { return QVariantList{m_idVrt(), codigo(), cboLocal->currentData()}; };
+    connect(cboInsumo, &QComboBox::activated, this, &PaginaDocumentosInsumo::escolheInsumo);
+    connect(total, &DecimalField::leaveAccepted, this, &PaginaDocumentosInsumo::gravaTotal);
+}
+
+// The frame "Insumo": the item (individual), the input, its statistical total, and (monthly) the place with the
+// input's quantity there.
+QWidget* PaginaDocumentosInsumo::constroiQuadro()
+{
+    const bool individual = m_individual;
     auto* quadro = new QGroupBox(QStringLiteral("Insumo"), this);
     auto* g = new QGridLayout(quadro);
     int c = 0;
-    auto poe = [&](const QString& rotulo, QWidget* w) {
-        g->addWidget(new QLabel(rotulo, quadro), 0, c);
+    auto poe = [&](QWidget* rotulo, QWidget* w) {
+        g->addWidget(rotulo, 0, c);
         g->addWidget(w, 1, c++);
     };
     if (individual) {
         cboItem = new QComboBox(quadro);
         cboItem->setObjectName(QStringLiteral("cmdItem_TabPIsemPPB_Documento"));
-        poe(QStringLiteral("Item"), cboItem);
+        poe(new QLabel(QStringLiteral("Item"), quadro), cboItem);
         connect(cboItem, &QComboBox::activated, this, &PaginaDocumentosInsumo::escolheItem);
     }
     cboInsumo = new QComboBox(quadro);
     cboInsumo->setObjectName(individual ? QStringLiteral("cmbCodigoControleInternoInsumo") : QStringLiteral("cboCCIInsumoPIsemPPB"));
     cboInsumo->setMinimumWidth(140);
-    poe(QStringLiteral("Código do insumo"), cboInsumo);
+    poe(new QLabel(QStringLiteral("Código do insumo"), quadro), cboInsumo);
     total = new DecimalField(DecimalField::Quantity, individual ? QStringLiteral("mskPIsemPPB") : QStringLiteral("mskPIsemPPB(0)"),
                              individual ? ZeroMessage::GreaterThanZero : ZeroMessage::NotZero, quadro);
     total->setDisplayFormat(QStringLiteral("###,###,##0.00000"));
-    poe(individual ? QStringLiteral("Quantidade Estatística") : QStringLiteral("Quant. Estatística Total"), total);
+    poe(new QLabel(individual ? QStringLiteral("Quantidade Estatística") : QStringLiteral("Quant. Estatística Total"), quadro),
+        total);
     if (!individual) {
         cboLocal = new QComboBox(quadro);
         cboLocal->setObjectName(QStringLiteral("cboLocalDestinoInsumo"));
         cboLocal->setMinimumWidth(150);
-        poe(QStringLiteral("Local de destino"), cboLocal);
+        poe(new QLabel(QStringLiteral("Local de destino"), quadro), cboLocal);
         txtQuantidadeTotalInsumo = new QLineEdit(quadro);
         txtQuantidadeTotalInsumo->setObjectName(QStringLiteral("txtQuantidadeTotalInsumo"));
         txtQuantidadeTotalInsumo->setReadOnly(true);
         rotuloQuantidade = new QLabel(QStringLiteral("Quant. Comercial"), quadro);
-        g->addWidget(rotuloQuantidade, 0, c);
-        g->addWidget(txtQuantidadeTotalInsumo, 1, c++);
+        poe(rotuloQuantidade, txtQuantidadeTotalInsumo);
         connect(cboLocal, &QComboBox::activated, this, &PaginaDocumentosInsumo::escolheLocal);
     }
     g->setColumnStretch(c, 1);
-    coluna->addWidget(quadro);
-
-    auto* tipos = new QGroupBox(QStringLiteral("Documento Entrada"), this);
-    auto* linha = new QHBoxLayout(tipos);
-    const char* nomes[3] = {"DI", "DSI", "NFA"};
-    const char* textos[3] = {"DI", "DSI", "NF"};
-    for (int i = 0; i < 3; ++i) {
-        opcoes[i] = new QRadioButton(QString::fromLatin1(textos[i]), tipos);
-        opcoes[i]->setObjectName(QStringLiteral("opt%1_tabPIsemPPB").arg(QLatin1String(nomes[i])));
-        linha->addWidget(opcoes[i]);
-        connect(opcoes[i], &QRadioButton::clicked, this, [this, i] { escolheTipo(i); });
-    }
-    linha->addStretch();
-    coluna->addWidget(tipos);
-    botoes = new QuatroBotoes(QStringLiteral("cmd%1_tabPIsemPPB"), this);
-    botoes->cmdLimpar->setObjectName(QStringLiteral("cmdLimpar_TabPIsemPPB"));
-    coluna->addWidget(botoes);
-    for (int tipo = 0; tipo < 3; ++tipo) {
-        const MembroDocumento* m = Membro(static_cast<TipoDocumento>(tipo), Origem::Insumo, individual);
-        if (!m)
-            continue;
-        auto* q = new QuadroDocumento(*m, this);
-        m_quadros.insert(tipo, q);
-        coluna->addWidget(q, 1);
-        connect(q, &QuadroDocumento::selecaoMudou, botoes, &QuatroBotoes::habilitaSelecao);
-    }
-    coluna->addStretch(0);
-    connect(botoes->cmdIncluir, &QPushButton::clicked, this, [this] {
-        if (QuadroDocumento* q = atual())
-            q->incluir();
-    });
-    connect(botoes->cmdAlterar, &QPushButton::clicked, this, [this] {
-        if (QuadroDocumento* q = atual())
-            q->alterar();
-    });
-    connect(botoes->cmdExcluir, &QPushButton::clicked, this, &PaginaDocumentosInsumo::excluir);
-    connect(botoes->cmdLimpar, &QPushButton::clicked, this, [this] {
-        if (QuadroDocumento* q = atual()) {
-            q->limpa();
-            q->carrega();
-        }
-    });
-    reinicia();
-
-    connect(cboInsumo, &QComboBox::activated, this, &PaginaDocumentosInsumo::escolheInsumo);
-    connect(total, &DecimalField::leaveAccepted, this, &PaginaDocumentosInsumo::gravaTotal);
+    return quadro;
 }
 
 QString PaginaDocumentosInsumo::codigo() const
@@ -116,7 +92,7 @@ QString PaginaDocumentosInsumo::codigo() const
 
 bool PaginaDocumentosInsumo::entra()
 {
-    reinicia();
+    m_docs->reinicia();
     cboInsumo->clear();
     total->clear();
     m_existe = false;
@@ -155,7 +131,7 @@ void PaginaDocumentosInsumo::escolheItem()
     for (const QStringList& i : Itens::LinhasInsumosNota(cboItem->currentData().toLongLong()))
         cboInsumo->addItem(i.value(1), i.value(0));
     cboInsumo->setCurrentIndex(-1);
-    reinicia();
+    m_docs->reinicia();
     definePai();
 }
 
@@ -168,18 +144,15 @@ void PaginaDocumentosInsumo::escolheInsumo()
     if (m_individual) {
         for (const QStringList& i : Itens::LinhasInsumosNota(cboItem->currentData().toLongLong()))
             if (i.value(0) == cboInsumo->currentData().toString())
-                for (QuadroDocumento* q : std::as_const(m_quadros))
-                    q->defineUnidade(i.value(6));
+                m_docs->defineUnidade(i.value(6));
         definePai();
-        if (QuadroDocumento* q = atual())
-            q->carrega();
+        m_docs->recarrega();
         return;
     }
-    reinicia();
+    m_docs->reinicia();
     const QString unidade = Itens::UnidadeDoInsumo(m_idVrt(), codigo());
     rotuloQuantidade->setText(QStringLiteral("Quant. comercial em ") + unidade);
-    for (QuadroDocumento* q : std::as_const(m_quadros))
-        q->defineUnidade(unidade);
+    m_docs->defineUnidade(unidade);
     cboLocal->clear();
     txtQuantidadeTotalInsumo->clear();
     for (const QStringList& l : Itens::LocaisDoInsumo(m_idVrt(), codigo()))
@@ -200,12 +173,12 @@ void PaginaDocumentosInsumo::escolheLocal()
                               "optNFA_tabProdutoEstrangeiro"};
     for (int tipo = 0; tipo < 3; ++tipo) {
         auto* o = window()->findChild<QRadioButton*>(QString::fromLatin1(nomesPE[tipo]));
-        if (o && o->isChecked() && m_quadros.contains(tipo))
-            m_quadros.value(tipo)->carrega();
+        if (o && o->isChecked())
+            m_docs->quadro(static_cast<TipoDocumento>(tipo))->carrega();
     }
 }
 
-void PaginaDocumentosInsumo::escolheTipo(int tipo)
+bool PaginaDocumentosInsumo::podeEscolher()
 {
     QString falta;
     if (m_individual)
@@ -216,38 +189,10 @@ void PaginaDocumentosInsumo::escolheTipo(int tipo)
         falta = cboInsumo->currentIndex() < 0  ? QStringLiteral("Selecione um código de produto antes")
                 : cboLocal->currentIndex() < 0 ? QStringLiteral("Selecione um local de destino antes")
                                                : QString();
-    if (!falta.isEmpty()) {
-        MsgBox(falta, m_individual ? Msg::OKOnly : Msg::OKOnly | Msg::Information);
-        reinicia();
-        return;
-    }
-    mostraTipo(tipo);
-}
-
-// No kind chosen: the three choices off, the frames and the buttons hidden.
-void PaginaDocumentosInsumo::reinicia()
-{
-    m_tipo = -1;
-    for (QRadioButton* o : opcoes) {
-        o->setAutoExclusive(false);
-        o->setChecked(false);
-        o->setAutoExclusive(true);
-    }
-    for (QuadroDocumento* q : std::as_const(m_quadros))
-        q->hide();
-    botoes->hide();
-}
-
-void PaginaDocumentosInsumo::mostraTipo(int tipo)
-{
-    m_tipo = tipo;
-    for (auto i = m_quadros.cbegin(); i != m_quadros.cend(); ++i)
-        i.value()->setVisible(i.key() == tipo);
-    botoes->show();
-    if (QuadroDocumento* q = atual()) {
-        q->limpa();
-        q->carrega();
-    }
+    if (falta.isEmpty())
+        return true;
+    MsgBox(falta, m_individual ? Msg::OKOnly : Msg::OKOnly | Msg::Information);
+    return false;
 }
 
 // The parent of the lines: declaration, input and place (monthly) or the input row (individual).
@@ -264,22 +209,9 @@ void PaginaDocumentosInsumo::definePai()
         pai << m_idVrt() << codigo() << cboLocal->currentData();
         textos.insert(QStringLiteral("#produto"), codigo());
         textos.insert(QStringLiteral("#local"), cboLocal->currentText());
+        textos.insert(QStringLiteral("#nome"), Itens::NomeDoInsumo(m_idVrt(), codigo()));
     }
-    for (QuadroDocumento* q : std::as_const(m_quadros))
-        q->definePai(pai, textos);
-}
-
-void PaginaDocumentosInsumo::excluir()
-{
-    QuadroDocumento* q = atual();
-    if (!q || !q->excluir() || m_individual)
-        return;
-    // A place left with no document of any kind shows the page as when it was entered.
-    QList<TabelaDocumento> tabelas;
-    for (const QuadroDocumento* outro : std::as_const(m_quadros))
-        tabelas << outro->membro().dados;
-    if (!DocumentoEntrada::TemLinhas(tabelas, {m_idVrt(), codigo(), cboLocal->currentData()}))
-        reinicia();
+    m_docs->definePai(pai, textos);
 }
 
 // The total is written when the field is left, not on a button; a row written once is updated afterwards.
@@ -292,4 +224,9 @@ void PaginaDocumentosInsumo::gravaTotal()
     if (total->text() != m_textoAoEntrar)
         modVRTPLN::AlteracaoPendente = true;
     m_textoAoEntrar = total->text();
+}
+
+QuadroDocumento* PaginaDocumentosInsumo::quadro(TipoDocumento tipo) const
+{
+    return m_docs->quadro(tipo);
 }

@@ -2,7 +2,7 @@
 // The page "Documentos de Origem" of the tab "PI sem PPB". Monthly: the inputs and places of the consolidated
 // picture of the declaration, the input's statistical total (INSUMO_VRT, written when the field is left) and the
 // total quantity of the input at the place. Individual: the items of the exit invoice, the inputs of the item
-// chosen and the input's statistical total (INSUMO_VRT_IND). The document kind is chosen below them.
+// chosen and the input's statistical total (INSUMO_VRT_IND). The document kinds (EscolhaDocumento) stand below.
 #include "gui/items/MembroDocumento.h"
 
 #include <QMap>
@@ -10,6 +10,7 @@
 #include <functional>
 
 class DecimalField;
+class EscolhaDocumento;
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -35,30 +36,27 @@ public:
     QLabel* rotuloQuantidade = nullptr;
     QRadioButton* opcoes[3] = {};          // optDI_, optDSI_, optNFA_tabPIsemPPB
     QuatroBotoes* botoes = nullptr;
-    // The frame of a kind; nullptr when its member is not described.
-    QuadroDocumento* quadro(TipoDocumento tipo) const { return m_quadros.value(static_cast<int>(tipo)); }
+    // The frame of a kind.
+    QuadroDocumento* quadro(TipoDocumento tipo) const;
 
 signals:
     void voltaProduto();
 
 private:
+    QWidget* constroiQuadro();
     QString codigo() const;
     void escolheItem();
     void escolheInsumo();
     void escolheLocal();
-    void escolheTipo(int tipo);
+    // A kind may be chosen once the input and its place (the item and its input) are.
+    bool podeEscolher();
     void gravaTotal();
-    void reinicia();
     void definePai();
-    void mostraTipo(int tipo);
-    QuadroDocumento* atual() const { return m_quadros.value(m_tipo); }
-    void excluir();
 
     bool m_individual;
     std::function<QString()> m_idVrt;
     std::function<qint64()> m_idNfs;
     bool m_existe = false;       // the input has its row of statistical total
     QString m_textoAoEntrar;     // the total's text when the field was entered
-    QMap<int, QuadroDocumento*> m_quadros;
-    int m_tipo = -1;
+    EscolhaDocumento* m_docs = nullptr;
 };

@@ -224,6 +224,8 @@ QWidget* QuadroDocumento::constroiBloco(int i)
     auto* rotuloValor = new QLabel(QString::fromUtf8("Valor unitário na medida comercial"), bloco);
     rotuloValor->setWordWrap(true);
     g->addWidget(rotuloValor, 0, 2);
+    g->setColumnStretch(2, 1);
+    cod->setMaximumWidth(cod->fontMetrics().horizontalAdvance(QStringLiteral("0000")) + 16);
     g->addWidget(val, 1, 2);
     DestinosEscolha::moeda().registra(m_m.chavesMoeda.value(i), cod, nullptr, this);
     connect(botao, &QPushButton::clicked, this,
@@ -615,6 +617,8 @@ QVariantMap QuadroDocumento::linha() const
     QVariantMap l;
     for (auto i = m_m.colunas.cbegin(); i != m_m.colunas.cend(); ++i)
         l.insert(i.value().toUpper(), texto(i.key()));
+    for (auto i = m_m.colunasDoPai.cbegin(); i != m_m.colunasDoPai.cend(); ++i)
+        l.insert(i.key().toUpper(), m_textosPai.value(i.value()));
     if (!tem(Papel::Sim))
         return l;
     const bool sim = eletronica();

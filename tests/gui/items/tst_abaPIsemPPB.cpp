@@ -5,7 +5,9 @@
 
 #include "gui/widgets/ConsultGrid.h"
 
+#include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QTabWidget>
 
 using namespace ItensTeste;
@@ -312,6 +314,38 @@ private slots:
             QCOMPARE(conta(QStringLiteral("ITEM_DI_INS_MEN")), p == QLatin1String("P001") ? 1 : 0);
         }
         QCOMPARE(conta(QStringLiteral("ITEM_IMPORT_288_INS_MEN")), 0);
+    }
+
+    void excluirInsumoSemProdutoOuSemCodigoRecusaAntesDaPergunta()
+    {
+        Ambiente a;
+        naAba(a, false, 3);
+        cadastraInsumos();
+        duasDestinacoes(a);
+        // The code typed away from the chosen row: the grid's double click is asked for, the focus on Excluir.
+        escolheLinha(a, GradeInsumo, 0);
+        a.campo<QLineEdit>(QStringLiteral("txtCodInsPIsemPPB"))->clear();
+        a.msgs.responde(Msg::OK);
+        a.clica(QStringLiteral("cmdExcluirInsumo"));
+        QCOMPARE(a.msgs.textos(), QStringList{QStringLiteral("Para excluir de um duplo clique na linha do grid a ser excluída")});
+        QCOMPARE(QApplication::focusWidget(), a.campo(QStringLiteral("cmdExcluirInsumo")));
+        a.msgs.limpa();
+        // The product list emptied while a row stays chosen.
+        escolheLinha(a, GradeInsumo, 0);
+        a.campo<QComboBox>(QStringLiteral("cboDocProdutoPIsemPPB"))->setCurrentIndex(-1);
+        a.msgs.responde(Msg::OK);
+        a.clica(QStringLiteral("cmdExcluirInsumo"));
+        QCOMPARE(a.msgs.textos(), QStringList{QStringLiteral("Selecione um produto")});
+        QCOMPARE(conta(QStringLiteral("INSUMO_ITEM_VRT_MEN")), 3);
+        // With the product and the code, the question comes and the input goes.
+        escolheProdutoDoInsumo(a, QStringLiteral("P002"));
+        escolheLinha(a, GradeInsumo, 0);
+        a.msgs.limpa();
+        a.msgs.responde(Msg::Yes);
+        a.clica(QStringLiteral("cmdExcluirInsumo"));
+        QCOMPARE(a.msgs.textos(), QStringList{QStringLiteral("Deseja realmente excluir?")});
+        QCOMPARE(conta(QStringLiteral("INSUMO_ITEM_VRT_MEN")), 2);
+        QCOMPARE(a.msgs.inesperadas, 0);
     }
 
     void individualProdutoEInsumoComTotal()

@@ -5,6 +5,8 @@
 #include "ItensTeste.h"
 
 #include <QCheckBox>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTabWidget>
 
 using namespace ItensTeste;
@@ -54,6 +56,14 @@ private slots:
         a.escolhe(QStringLiteral("cboLocalDestinoInsumo"), QStringLiteral("Estados AC, AM, RO e RR"));
         a.clica(QStringLiteral("optDI_tabPIsemPPB"));
         salva(a, QStringLiteral("abaPIsemPPB_documentos.png"));
+        // At 1024×768 the page of documents scrolls up and down only, whatever kind is shown.
+        auto* area = qobject_cast<QScrollArea*>(a.campo(QStringLiteral("tabPIsemPPB(2)"))->parentWidget()->parentWidget());
+        QVERIFY(area);
+        for (const char* tipo : {"optDI_tabPIsemPPB", "optDSI_tabPIsemPPB", "optNFA_tabPIsemPPB"}) {
+            a.clica(QString::fromLatin1(tipo));
+            QTest::qWait(20);
+            QVERIFY2(area->horizontalScrollBar()->maximum() == 0, tipo);
+        }
         QCOMPARE(a.msgs.inesperadas, 0);
     }
 };

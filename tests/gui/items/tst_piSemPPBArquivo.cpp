@@ -1,6 +1,9 @@
 // Declarations of both types with products without basic process and their inputs made through the screens,
-// written to a file, checked record by record (records 31 to 33, the consolidated quantity of an input at a place
-// included), read back into an empty database and opened again with the same rows.
+// written to a file, checked record by record (records 31 to 36, the consolidated quantity of an input at a place
+// included; the individual one byte for byte against a golden file), read back into an empty database and opened
+// again with the same rows.
+#include "ArquivoTeste.h"
+#include "CenariosGravacao.h"
 #include "DocumentoTeste.h"
 #include "ItensTeste.h"
 #include "VoltaArquivoTeste.h"
@@ -73,6 +76,60 @@ void totalDoInsumo(Ambiente& a, const QString& lista, const QString& campo, cons
     a.escolhe(lista, codigo);
     a.digita(campo, qt);
     a.sai(lista);
+}
+
+// Types a line of each kind for the input chosen on the page of documents: an acquisition invoice under the
+// Decreto-Lei with its unit value, a DSI under suspension with the input's value, a DI with neither.
+void documentosDoInsumo(Ambiente& a, bool individual)
+{
+    const auto nomes = [individual](TipoDocumento tipo) { return Membro(tipo, Origem::Insumo, individual)->nomes; };
+    const auto nfa = nomes(TipoDocumento::NFA);
+    a.clica(t("optNFA_tabPIsemPPB"));
+    a.digita(nfa.value(Papel::NumeroNF), t("1234"));
+    a.digita(nfa.value(Papel::Serie), t("A1"));
+    a.digita(nfa.value(Papel::ItemNF), t("1"));
+    a.digita(nfa.value(Papel::Data), t("15012008"));
+    a.digita(nfa.value(Papel::CFOP), t("5102"));
+    a.digita(nfa.value(Papel::CNPJ), DocumentoTeste::CnpjFornecedor);
+    a.digita(nfa.value(Papel::Quantidade), t("4"));
+    a.clica(nfa.value(Papel::DecretoLei));
+    a.digita(nfa.value(Papel::ValorUnitario), t("3,5"));
+    a.sai(nfa.value(Papel::Serie));
+    a.clica(t("cmdIncluir_tabPIsemPPB"));
+    const auto dsi = nomes(TipoDocumento::DSI);
+    a.clica(t("optDSI_tabPIsemPPB"));
+    a.digita(dsi.value(Papel::Numero), DocumentoTeste::numeroDSI());
+    a.digita(dsi.value(Papel::NumeroBem), t("1"));
+    a.digita(dsi.value(Papel::Quantidade), t("4"));
+    a.clica(dsi.value(Papel::Suspensao));
+    a.digita(dsi.value(Papel::Moeda0), t("220"));
+    a.digita(dsi.value(Papel::Valor0), t("10"));
+    a.sai(dsi.value(Papel::NumeroBem));
+    a.clica(t("cmdIncluir_tabPIsemPPB"));
+    const auto di = nomes(TipoDocumento::DI);
+    a.clica(t("optDI_tabPIsemPPB"));
+    a.digita(di.value(Papel::Numero), DocumentoTeste::numeroDI());
+    a.digita(di.value(Papel::Adicao), t("1"));
+    a.digita(di.value(Papel::ItemAdicao), t("2"));
+    a.digita(di.value(Papel::Quantidade), t("5"));
+    a.sai(di.value(Papel::Adicao));
+    a.clica(t("cmdIncluir_tabPIsemPPB"));
+}
+
+// Records 34 and 36 as the two files have them: in the monthly one the input and the place at their columns, in
+// the individual one blanks and "0" there (and the DSI's values after them).
+QString registro34(bool individual)
+{
+    const QString fim = individual ? x(QString(), 15) + t("0") : x(t("INS1"), 15) + t("1");
+    return t("34") + DocumentoTeste::CnpjFornecedor + x(t("A1"), 5) + t("001234") + t("001") + t("20080115") + t("5102")
+           + t("S") + t("00000000400000") + t("00000000000035000000") + fim;
+}
+
+QString registro36(bool individual)
+{
+    const QString fim = individual ? x(QString(), 15) + t("0") : x(t("INS1"), 15) + t("1");
+    return t("36") + DocumentoTeste::numeroDSI() + zeros(15) + t("001") + t("00000000400000") + fim
+           + t("00000000000100000000") + t("220") + zeros(20) + t("000") + zeros(20) + t("000") + t("S");
 }
 
 QStringList aparados(const QStringList& l)
@@ -214,6 +271,128 @@ private slots:
         QCOMPARE(a.campo<QLineEdit>(t("txtQuantidadeTotalInsumo"))->text(), t("11,00000"));
         a.clica(t("optDI_tabPIsemPPB"));
         QCOMPARE(a.campo<ConsultGrid>(t("grdConsultaDI_tabPIsemPPB"))->dataRowCount(), 2);
+        a.fechar();
+        QCOMPARE(a.msgs.inesperadas, 0);
+    }
+
+    void documentosDoInsumoMensalNosRegistros34a36EDeVolta()
+    {
+        Ambiente a;
+        QTemporaryDir pasta;
+        EditorDeclaracao* e = naAba(a, false, 3);
+        cadastraInsumos();
+        produto(a, t("P001"), Local1, t("10"));
+        paginas(a)->setCurrentIndex(1);
+        a.escolhe(t("cboDocProdutoPIsemPPB"), t("P001"));
+        insumo(a, t("INS1"), t("0,5"), false);
+        paginas(a)->setCurrentIndex(2);
+        a.escolhe(t("cboCCIInsumoPIsemPPB"), t("INS1"));
+        a.escolhe(t("cboLocalDestinoInsumo"), Local1);
+        documentosDoInsumo(a, false);
+        QCOMPARE(a.msgs.textos(), QStringList());
+        // The DI line keeps the input's name, as one read from a file does.
+        QCOMPARE(BancoTeste::conta(t("ITEM_DI_INS_MEN"), t("NM_INT_INSUMO = 'Insumo INS1'")), 1);
+        const QString id = e->idVrt();
+        a.salvar();
+        a.fechar();
+        const QByteArray arquivo = escreve(id, pasta.path());
+        const QStringList r = registrosInsumos(arquivo);
+        QCOMPARE(r.size(), 6);
+        QCOMPARE(r.at(3), registro34(false));
+        QCOMPARE(r.at(4).left(2), t("35"));
+        QCOMPARE(r.at(5), registro36(false));
+
+        BancoTeste::executa(t("DELETE FROM VRT"));
+        QVERIFY(importa(arquivo, pasta.path()));
+        // The series comes back as the record holds it, with its blanks.
+        QCOMPARE(BancoTeste::conta(t("ITEM_NFA_INS_MEN"),
+                                   t("CD_INT_INSUMO = 'INS1' AND CD_LOCAL_DESTINO = '1' AND NR_NF_AQUIS = '001234' AND "
+                                     "NR_SERIE_NF_AQUIS = 'A1   ' AND DT_EMISS_NF_AQUIS = '15012008' AND IND_DL_288_67 = 'S' "
+                                     "AND QT_INSUMO_UNID_INS = '4,00000' AND VL_INSUMO_UNID_INS = '3,5000000'")),
+                 1);
+        QCOMPARE(BancoTeste::conta(t("ITEM_DSI_INS_MEN"),
+                                   t("CD_INT_INSUMO = 'INS1' AND CD_LOCAL_DESTINO = '1' AND NR_DSI = ? AND NR_BEM = '001' "
+                                     "AND IND_SUSP_PIS_COFINS = 'S' AND CD_MOEDA_NEG = '220' AND "
+                                     "VL_PROD_UNID_PROD = '10,0000000'"),
+                                   {DocumentoTeste::numeroDSI()}),
+                 1);
+        // The DI line read back takes the input's name of record 32, as that record holds it.
+        QCOMPARE(BancoTeste::conta(t("ITEM_DI_INS_MEN"), t("NM_INT_INSUMO = ?"), {x(t("Insumo INS1"), 45)}), 1);
+        abrePeloEscolhedor(a);
+        a.vaiParaAba(3);
+        paginas(a)->setCurrentIndex(2);
+        a.escolhe(t("cboCCIInsumoPIsemPPB"), t("INS1"));
+        a.escolhe(t("cboLocalDestinoInsumo"), Local1);
+        a.clica(t("optDSI_tabPIsemPPB"));
+        QCOMPARE(a.campo<ConsultGrid>(t("grdConsultaDSI_tabPIsemPPB"))->dataRowCount(), 1);
+        a.clica(t("optNFA_tabPIsemPPB"));
+        QCOMPARE(a.campo<ConsultGrid>(t("grdConsultaNFA_tabPIsemPPB"))->dataRowCount(), 1);
+        a.fechar();
+        QCOMPARE(a.msgs.inesperadas, 0);
+    }
+
+    // The individual declaration typed through the screens is written byte for byte as the golden file composed
+    // by hand from the record tables, and comes back with its documents.
+    void individualDasTelasIgualAoArquivoDeReferenciaEDeVolta()
+    {
+        Ambiente a;
+        QTemporaryDir pasta;
+        EditorDeclaracao* e = naAba(a, true, 3);
+        cadastraInsumos();
+        a.digita(t("txtPIsemPPBNFS(0)"), t("1"));
+        a.digita(t("mskPIsemPPBNFS(0)"), Ncm1);
+        a.digita(t("txtCodProdPIsemPPB"), t("P001"));
+        a.escolhe(t("cboUnidadePIsemPPB"), t("UN"));
+        a.digita(t("mskPIsemPPBNFS(1)"), t("5"));
+        a.digita(t("mskPIsemPPBNFS(2)"), t("12,5"));
+        a.sai(t("cmdIncluir_tabPIsemPPB_NFS"));
+        a.clica(t("cmdIncluir_tabPIsemPPB_NFS"));
+        paginas(a)->setCurrentIndex(1);
+        a.escolhe(t("cboItem_PIsemPPB_Insumo"), t("1"));
+        a.digita(t("mskPIsemPPBNFS(5)"), Ncm2);
+        a.digita(t("txtCodInsPIsemPPB"), t("INS1"));
+        a.escolhe(t("cboUnidadeInsumo"), t("UN"));
+        a.digita(t("mskPIsemPPBNFS(6)"), t("2"));
+        a.campo<QCheckBox>(t("chk_AliquotaTIPI_tabPIsemPPB"))->setChecked(true);
+        a.digita(t("mskPIsemPPBNFS(8)"), t("5"));
+        a.digita(t("txtPIsemPPBNFS(9)"), t("Decreto 9"));
+        a.sai(t("cmdIncluirInsumo"));
+        a.clica(t("cmdIncluirInsumo"));
+        paginas(a)->setCurrentIndex(2);
+        a.escolhe(t("cmdItem_TabPIsemPPB_Documento"), t("1"));
+        totalDoInsumo(a, t("cmbCodigoControleInternoInsumo"), t("mskPIsemPPB"), t("INS1"), t("3"));
+        documentosDoInsumo(a, true);
+        QCOMPARE(a.msgs.textos(), QStringList());
+        const QString id = e->idVrt();
+        a.salvar();
+        a.fechar();
+        const QByteArray arquivo = escreve(id, pasta.path());
+        QVERIFY(CenariosGravacao::mesmosBytes(arquivo, CenariosGravacao::esperado(t("individual_pisemppb_telas.txt"))));
+        const QStringList r = registrosInsumos(arquivo);
+        QCOMPARE(r.at(3), registro34(true));
+        QCOMPARE(r.at(5), registro36(true));
+
+        BancoTeste::executa(t("DELETE FROM VRT"));
+        QVERIFY(importa(arquivo, pasta.path()));
+        QCOMPARE(BancoTeste::conta(t("ITEM_NFA_INS_IND"),
+                                   t("NR_NF_AQUIS = '001234' AND NR_CNPJ_FORNECEDOR = ? AND IND_DL_288_67 = 'S' AND "
+                                     "QT_INSUMO_UNID_NFS = '4,00000' AND VL_INS_PROD_UNID_NFS = '3,5000000'"),
+                                   {DocumentoTeste::CnpjFornecedor}),
+                 1);
+        QCOMPARE(BancoTeste::conta(t("ITEM_DSI_INS_IND"),
+                                   t("NR_DSI = ? AND NR_BEM = '001' AND IND_SUSP_PIS_COFINS = 'S' AND CD_MOEDA_NEG = '220' "
+                                     "AND VL_INS_UNID_PROD = '10,0000000' AND QT_INSUMO_UNID_NFS = '4,00000'"),
+                                   {DocumentoTeste::numeroDSI()}),
+                 1);
+        abrePeloEscolhedor(a);
+        a.vaiParaAba(3);
+        paginas(a)->setCurrentIndex(2);
+        a.escolhe(t("cmdItem_TabPIsemPPB_Documento"), t("001"));
+        a.escolhe(t("cmbCodigoControleInternoInsumo"), t("INS1"));
+        a.clica(t("optDSI_tabPIsemPPB"));
+        QCOMPARE(a.campo<ConsultGrid>(t("grdConsultaDSI_tabPIsemPPB"))->dataRowCount(), 1);
+        a.clica(t("optNFA_tabPIsemPPB"));
+        QCOMPARE(a.campo<ConsultGrid>(t("grdConsultaNFA_tabPIsemPPB"))->dataRowCount(), 1);
         a.fechar();
         QCOMPARE(a.msgs.inesperadas, 0);
     }
