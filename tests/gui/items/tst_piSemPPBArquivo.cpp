@@ -116,6 +116,37 @@ void documentosDoInsumo(Ambiente& a, bool individual)
     a.clica(t("cmdIncluir_tabPIsemPPB"));
 }
 
+// An individual declaration with item 1 of product P001 and its input INS1 (IPI rate 5 on "Decreto 9"), left on
+// the documents page with the input's total at item 1 typed as 3.
+EditorDeclaracao* itemIndividualComInsumo(Ambiente& a)
+{
+    EditorDeclaracao* e = naAba(a, true, 3);
+    cadastraInsumos();
+    a.digita(t("txtPIsemPPBNFS(0)"), t("1"));
+    a.digita(t("mskPIsemPPBNFS(0)"), Ncm1);
+    a.digita(t("txtCodProdPIsemPPB"), t("P001"));
+    a.escolhe(t("cboUnidadePIsemPPB"), t("UN"));
+    a.digita(t("mskPIsemPPBNFS(1)"), t("5"));
+    a.digita(t("mskPIsemPPBNFS(2)"), t("12,5"));
+    a.sai(t("cmdIncluir_tabPIsemPPB_NFS"));
+    a.clica(t("cmdIncluir_tabPIsemPPB_NFS"));
+    paginas(a)->setCurrentIndex(1);
+    a.escolhe(t("cboItem_PIsemPPB_Insumo"), t("1"));
+    a.digita(t("mskPIsemPPBNFS(5)"), Ncm2);
+    a.digita(t("txtCodInsPIsemPPB"), t("INS1"));
+    a.escolhe(t("cboUnidadeInsumo"), t("UN"));
+    a.digita(t("mskPIsemPPBNFS(6)"), t("2"));
+    a.campo<QCheckBox>(t("chk_AliquotaTIPI_tabPIsemPPB"))->setChecked(true);
+    a.digita(t("mskPIsemPPBNFS(8)"), t("5"));
+    a.digita(t("txtPIsemPPBNFS(9)"), t("Decreto 9"));
+    a.sai(t("cmdIncluirInsumo"));
+    a.clica(t("cmdIncluirInsumo"));
+    paginas(a)->setCurrentIndex(2);
+    a.escolhe(t("cmdItem_TabPIsemPPB_Documento"), t("1"));
+    totalDoInsumo(a, t("cmbCodigoControleInternoInsumo"), t("mskPIsemPPB"), t("INS1"), t("3"));
+    return e;
+}
+
 // Records 34 and 36 as the two files have them: in the monthly one the input and the place at their columns, in
 // the individual one blanks and "0" there (and the DSI's values after them).
 QString registro34(bool individual)
@@ -337,30 +368,7 @@ private slots:
     {
         Ambiente a;
         QTemporaryDir pasta;
-        EditorDeclaracao* e = naAba(a, true, 3);
-        cadastraInsumos();
-        a.digita(t("txtPIsemPPBNFS(0)"), t("1"));
-        a.digita(t("mskPIsemPPBNFS(0)"), Ncm1);
-        a.digita(t("txtCodProdPIsemPPB"), t("P001"));
-        a.escolhe(t("cboUnidadePIsemPPB"), t("UN"));
-        a.digita(t("mskPIsemPPBNFS(1)"), t("5"));
-        a.digita(t("mskPIsemPPBNFS(2)"), t("12,5"));
-        a.sai(t("cmdIncluir_tabPIsemPPB_NFS"));
-        a.clica(t("cmdIncluir_tabPIsemPPB_NFS"));
-        paginas(a)->setCurrentIndex(1);
-        a.escolhe(t("cboItem_PIsemPPB_Insumo"), t("1"));
-        a.digita(t("mskPIsemPPBNFS(5)"), Ncm2);
-        a.digita(t("txtCodInsPIsemPPB"), t("INS1"));
-        a.escolhe(t("cboUnidadeInsumo"), t("UN"));
-        a.digita(t("mskPIsemPPBNFS(6)"), t("2"));
-        a.campo<QCheckBox>(t("chk_AliquotaTIPI_tabPIsemPPB"))->setChecked(true);
-        a.digita(t("mskPIsemPPBNFS(8)"), t("5"));
-        a.digita(t("txtPIsemPPBNFS(9)"), t("Decreto 9"));
-        a.sai(t("cmdIncluirInsumo"));
-        a.clica(t("cmdIncluirInsumo"));
-        paginas(a)->setCurrentIndex(2);
-        a.escolhe(t("cmdItem_TabPIsemPPB_Documento"), t("1"));
-        totalDoInsumo(a, t("cmbCodigoControleInternoInsumo"), t("mskPIsemPPB"), t("INS1"), t("3"));
+        EditorDeclaracao* e = itemIndividualComInsumo(a);
         documentosDoInsumo(a, true);
         QCOMPARE(a.msgs.textos(), QStringList());
         const QString id = e->idVrt();
@@ -401,30 +409,7 @@ private slots:
     {
         Ambiente a;
         QTemporaryDir pasta;
-        EditorDeclaracao* e = naAba(a, true, 3);
-        cadastraInsumos();
-        a.digita(t("txtPIsemPPBNFS(0)"), t("1"));
-        a.digita(t("mskPIsemPPBNFS(0)"), Ncm1);
-        a.digita(t("txtCodProdPIsemPPB"), t("P001"));
-        a.escolhe(t("cboUnidadePIsemPPB"), t("UN"));
-        a.digita(t("mskPIsemPPBNFS(1)"), t("5"));
-        a.digita(t("mskPIsemPPBNFS(2)"), t("12,5"));
-        a.sai(t("cmdIncluir_tabPIsemPPB_NFS"));
-        a.clica(t("cmdIncluir_tabPIsemPPB_NFS"));
-        paginas(a)->setCurrentIndex(1);
-        a.escolhe(t("cboItem_PIsemPPB_Insumo"), t("1"));
-        a.digita(t("mskPIsemPPBNFS(5)"), Ncm2);
-        a.digita(t("txtCodInsPIsemPPB"), t("INS1"));
-        a.escolhe(t("cboUnidadeInsumo"), t("UN"));
-        a.digita(t("mskPIsemPPBNFS(6)"), t("2"));
-        a.campo<QCheckBox>(t("chk_AliquotaTIPI_tabPIsemPPB"))->setChecked(true);
-        a.digita(t("mskPIsemPPBNFS(8)"), t("5"));
-        a.digita(t("txtPIsemPPBNFS(9)"), t("Decreto 9"));
-        a.sai(t("cmdIncluirInsumo"));
-        a.clica(t("cmdIncluirInsumo"));
-        paginas(a)->setCurrentIndex(2);
-        a.escolhe(t("cmdItem_TabPIsemPPB_Documento"), t("1"));
-        totalDoInsumo(a, t("cmbCodigoControleInternoInsumo"), t("mskPIsemPPB"), t("INS1"), t("3"));
+        EditorDeclaracao* e = itemIndividualComInsumo(a);
         QCOMPARE(a.msgs.textos(), QStringList());
         const QString id = e->idVrt();
         a.salvar();
