@@ -174,9 +174,8 @@ void CabecalhoVrt::escreve(SaidaVrt& saida, const QString& origem) const
     LinhaRegistro r02(LayoutRegistro::de(t, QStringLiteral("02")));
     r02.poe(QStringLiteral("IND_MANDADO_JUDIC"), indMandadoJudic);
     for (int k = 0; k < SlotsValores::QuantidadeMandado; ++k) {
-        const QString n = QStringLiteral("%1").arg(k + 1, 2, 10, QLatin1Char('0'));
-        r02.poe(QStringLiteral("IND_MANDADO_") + n, indicadoresMandado.at(k));
-        r02.poe(QStringLiteral("VL_MANDADO_") + n, valoresMandado.at(k));
+        r02.poe(SlotsValores::campoIndicadorMandado(k + 1), indicadoresMandado.at(k));
+        r02.poe(SlotsValores::campoValorMandado(k + 1), valoresMandado.at(k));
     }
     saida.escreve(r02);
 
@@ -184,6 +183,6 @@ void CabecalhoVrt::escreve(SaidaVrt& saida, const QString& origem) const
     r03.poe(QStringLiteral("NR_VRT"), nrVrt);
     r03.poe(QStringLiteral("NR_PROC_ADM_FISCAL"), nrProcAdmFiscal);
     for (int k = 0; k < SlotsValores::QuantidadeRetif; ++k)
-        r03.poe(QStringLiteral("VL_RETIF_%1").arg(k + 1, 2, 10, QLatin1Char('0')), valoresRetif.at(k));
+        r03.poe(SlotsValores::campoValorRetif(k + 1), valoresRetif.at(k));
     saida.escreve(r03);
 }
