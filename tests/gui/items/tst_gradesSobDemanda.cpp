@@ -9,6 +9,8 @@
 
 #include <QRadioButton>
 
+#include <algorithm>
+
 using namespace ItensTeste;
 
 namespace {
@@ -168,9 +170,14 @@ private slots:
         escolheLinha(a, Nacional, 2);
         a.msgs.responde(Msg::Yes);
         a.clica(QStringLiteral("cmdExcluir_tab100Nacional_Mensal"));
-        a.msgs.caixas.clear();
+        // All three writes went through: the only box is Excluir's question.
+        QCOMPARE(a.msgs.textos(), QStringList{QStringLiteral("Deseja realmente excluir?")});
         const Estado aposGravar = estado(a, Nacional);
         QCOMPARE(aposGravar.linhas.size(), 10);
+        QCOMPARE(conta(QStringLiteral("ITEM_VRT_MEN"), QStringLiteral("CD_INT_PRODUTO = 'P002'")), 1);
+        QCOMPARE(conta(QStringLiteral("ITEM_VRT_MEN"), QStringLiteral("QT_PROD_UNID_EST = '7,00000'")), 1);
+        QVERIFY(std::any_of(aposGravar.linhas.cbegin(), aposGravar.linhas.cend(),
+                            [](const QStringList& l) { return l.contains(QStringLiteral("P002")); }));
         a.salvar();
         const Estado aposSalvar = estado(a, Nacional);
         QCOMPARE(aposSalvar, aposGravar);
