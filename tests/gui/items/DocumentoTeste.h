@@ -221,6 +221,16 @@ struct Cenario {
     bool marcado(Papel p) const { return qobject_cast<QCheckBox*>(quadro()->campo(p))->isChecked(); }
     bool ativo(Papel p) const { return quadro()->campo(p)->isEnabled(); }
     QString texto(Papel p) const { return qobject_cast<QLineEdit*>(quadro()->campo(p))->text(); }
+    // Types a value into a field and leaves it for `saida`, answering OK to the box `mensagem` when one is
+    // expected; fails the test unless the boxes shown are exactly that one (or none).
+    void digitaESai(Papel p, const QString& valor, const QString& mensagem, Papel saida = Papel::Quantidade)
+    {
+        if (!mensagem.isEmpty())
+            a.msgs.responde(Msg::OK);
+        digita(p, valor);
+        a.sai(nome(saida));
+        QCOMPARE(a.msgs.textos(), mensagem.isEmpty() ? QStringList() : QStringList{mensagem});
+    }
     void incluir() { a.clica(individual ? QStringLiteral("cmdIncluir_TabPE") : QStringLiteral("cmdIncluir_tabProdutoEstrangeiro")); }
     void alterar() { a.clica(individual ? QStringLiteral("cmdAlterar_TabPE") : QStringLiteral("cmdAlterar_tabProdutoEstrangeiro")); }
     void excluir() { a.clica(individual ? QStringLiteral("cmdExcluir_TabPE") : QStringLiteral("cmdExcluir_tabProdutoEstrangeiro")); }

@@ -160,11 +160,7 @@ private slots:
         Cenario c(a, individual, TipoDocumento::DI);
         c.clica(Papel::Nao);
         const Papel p = static_cast<Papel>(papel);
-        if (!mensagem.isEmpty())
-            a.msgs.responde(Msg::OK);
-        c.digita(p, valor);
-        a.sai(c.nome(p == Papel::Quantidade ? Papel::Adicao : Papel::Quantidade));
-        QCOMPARE(a.msgs.textos(), mensagem.isEmpty() ? QStringList() : QStringList{mensagem});
+        c.digitaESai(p, valor, mensagem, p == Papel::Quantidade ? Papel::Adicao : Papel::Quantidade);
         QCOMPARE(c.texto(p), resultado);
         QCOMPARE(a.msgs.inesperadas, 0);
     }

@@ -219,11 +219,7 @@ private slots:
         Ambiente a;
         Cenario c(a, individual, TipoDocumento::NFA);
         const Papel p = static_cast<Papel>(papel);
-        if (!mensagem.isEmpty())
-            a.msgs.responde(Msg::OK);
-        c.digita(p, valor);
-        a.sai(c.nome(Papel::Quantidade));
-        QCOMPARE(a.msgs.textos(), mensagem.isEmpty() ? QStringList() : QStringList{mensagem});
+        c.digitaESai(p, valor, mensagem);
         QWidget* w = c.quadro()->campo(p);
         const QString visto = qobject_cast<DigitField*>(w)    ? qobject_cast<DigitField*>(w)->value()
                               : qobject_cast<MaskedField*>(w) ? qobject_cast<MaskedField*>(w)->digits()
