@@ -1,0 +1,154 @@
+// Every caller key of the product, NCM and currency pickers has a field in the editor that leaves it: a key
+// without one would let the user pick a row that lands nowhere. The keys are written out here as the editors
+// leave them, not taken from the pickers' own list.
+#include "../items/ItensTeste.h"
+
+#include "gui/assistants/DestinosEscolha.h"
+#include "gui/assistants/frmAssistNCM.h"
+#include "gui/assistants/frmAssistenteCCI.h"
+
+#include <QTimer>
+
+#include <QtTest>
+
+namespace {
+
+QStringList lista(std::initializer_list<const char*> nomes)
+{
+    QStringList r;
+    for (const char* n : nomes)
+        r << QString::fromLatin1(n);
+    return r;
+}
+
+// The twelve currency keys of one editor: product or input, DI or DSI, sale, insurance or freight.
+QStringList chavesMoeda(const QString& mensal)
+{
+    QStringList r;
+    for (const char* doc : {"DI", "DSI"})
+        for (const char* valor : {"Prod", "SI", "FI"})
+            r << QStringLiteral("produtoPE") + mensal + QString::fromLatin1(doc) + QString::fromLatin1(valor);
+    for (const char* doc : {"DI", "DSI"})
+        for (const char* valor : {"Ins", "SI", "FI"})
+            r << QStringLiteral("InsumoPISemPPB") + mensal + QString::fromLatin1(doc) + QString::fromLatin1(valor);
+    return r;
+}
+
+// The keys that have no field, joined so that a failure names them.
+QString semCampo(const DestinosEscolha& destinos, const QStringList& chaves)
+{
+    QStringList faltam;
+    for (const QString& c : chaves)
+        if (!destinos.registrada(c))
+            faltam << c;
+    return faltam.join(QLatin1Char(' '));
+}
+
+// The index of the editor's tab that holds the control `nome`.
+int abaCom(EditorTeste::Ambiente& a, const QString& nome)
+{
+    QWidget* w = a.campo(nome);
+    for (int i = 0; w && i < a.abas()->count(); ++i)
+        if (a.abas()->widget(i)->isAncestorOf(w))
+            return i;
+    return -1;
+}
+
+// Double-clicks the row of the open modal picker's grid whose code column, without its points, is `codigo`.
+template <class Tela>
+void escolheNaLista(const QString& codigo, bool& escolheu)
+{
+    auto* tela = qobject_cast<Tela*>(QApplication::activeModalWidget());
+    if (!tela)
+        return;
+    auto* g = tela->template findChild<ConsultGrid*>();
+    for (int i = 0; i < g->dataRowCount(); ++i) {
+        if (g->cellText(i, 1).remove(QLatin1Char('.')) == codigo) {
+            QTest::mouseDClick(g->viewport(), Qt::LeftButton, {}, g->visualRect(g->model()->index(i, 1)).center());
+            escolheu = true;
+            return;
+        }
+    }
+}
+
+}  // namespace
+
+class tst_chavesDosChamadores : public QObject {
+    Q_OBJECT
+private slots:
+    void editorMensalTemCampoParaCadaChave()
+    {
+        EditorTeste::Ambiente a;
+        QVERIFY(a.novaMensal());
+        QCOMPARE(semCampo(DestinosEscolha::produto(),
+                          lista({"produto100NacionalMensal", "produtoDCREPIcomPPBMensal", "produtoDCRPIcomPPBMensal",
+                                 "produtoPEMensal", "produtoPIsemPPBMensal", "InsumoPIsemPPBMensal"})),
+                 QString());
+        QCOMPARE(semCampo(DestinosEscolha::ncm(), lista({"produto100NacionalMensal", "produtoPEMensal",
+                                                         "produtoPIsemPPBMensal", "InsumoPIsemPPBMensal"})),
+                 QString());
+        QCOMPARE(semCampo(DestinosEscolha::moeda(), chavesMoeda(QStringLiteral("Mensal"))), QString());
+        QCOMPARE(chavesMoeda(QStringLiteral("Mensal")).value(0), QStringLiteral("produtoPEMensalDIProd"));
+    }
+
+    void editorIndividualTemCampoParaCadaChave()
+    {
+        EditorTeste::Ambiente a;
+        QVERIFY(a.novaIndividual());
+        QCOMPARE(semCampo(DestinosEscolha::produto(),
+                          lista({"produto", "insumo", "produtoPE", "produtoPIcomPPBDCRE", "produtoPIcomPPBDCR",
+                                 "produto100Nacional"})),
+                 QString());
+        QCOMPARE(semCampo(DestinosEscolha::ncm(), lista({"produtoPE", "produto", "insumo", "produto100Nacional"})),
+                 QString());
+        QCOMPARE(semCampo(DestinosEscolha::moeda(), chavesMoeda(QString())), QString());
+    }
+
+    // On the foreign-product tab the NCM picker fills the NCM, its description and unit, and the product picker the
+    // code and the description, in each editor.
+    void abaProdutoEstrangeiroRecebeNcmEProduto_data()
+    {
+        QTest::addColumn<bool>("individual");
+        QTest::addColumn<QString>("ncm");
+        QTest::addColumn<QString>("unidadeEst");
+        QTest::addColumn<QString>("produto");
+        QTest::addColumn<QString>("descricao");
+        QTest::addColumn<QString>("editor");
+        QTest::newRow("mensal") << false << "mskNumNCMPE" << "txtUnidMedEstatisticaPE" << "txtCodProdPE"
+                                << "txtDescrProdPE" << "Mensal";
+        QTest::newRow("individual") << true << "mskProdutoEstrangeiroNFS(0)" << "txtdisplayPE" << "txtCodProdPE"
+                                    << "txtDescrProdPE" << "Individual";
+    }
+
+    void abaProdutoEstrangeiroRecebeNcmEProduto()
+    {
+        QFETCH(bool, individual);
+        QFETCH(QString, ncm);
+        QFETCH(QString, unidadeEst);
+        QFETCH(QString, produto);
+        QFETCH(QString, descricao);
+        QFETCH(QString, editor);
+        EditorTeste::Ambiente a;
+        ItensTeste::naAba(a, individual, 0);
+        const int aba = abaCom(a, produto);
+        QVERIFY(aba > 0);
+        a.vaiParaAba(aba);
+
+        bool escolheu = false;
+        QTimer::singleShot(50, this, [&] { escolheNaLista<frmAssistNCM>(ItensTeste::Ncm1, escolheu); });
+        a.clica(QStringLiteral("cmdAssistenteNCM_tabProdutoEstrangeiro_") + editor);
+        QVERIFY(escolheu);
+        QCOMPARE(a.campo<QLineEdit>(ncm)->text(), QStringLiteral("3925.20.00"));
+        QCOMPARE(a.campo<QLineEdit>(unidadeEst)->text(), ItensTeste::UnidadeEst);
+
+        escolheu = false;
+        QTimer::singleShot(50, this, [&] { escolheNaLista<frmAssistenteCCI>(QStringLiteral("P002"), escolheu); });
+        a.clica(QStringLiteral("cmdAssistenteCCI_tabProdutoEstrangeiro_") + editor);
+        QVERIFY(escolheu);
+        QCOMPARE(a.campo<QLineEdit>(produto)->text(), QStringLiteral("P002"));
+        QCOMPARE(a.campo<QLineEdit>(descricao)->text(), QStringLiteral("Produto dois"));
+    }
+};
+
+QTEST_MAIN(tst_chavesDosChamadores)
+#include "tst_chavesDosChamadores.moc"
