@@ -44,6 +44,33 @@ QString semCampo(const DestinosEscolha& destinos, const QStringList& chaves)
     return faltam.join(QLatin1Char(' '));
 }
 
+// Hands `codigo` to each key as a picker does, and names the keys whose code field does not show it afterwards.
+QString naoRecebem(const DestinosEscolha& destinos, const QStringList& chaves, const QString& codigo,
+                   const QString& complemento)
+{
+    QStringList faltam;
+    for (const QString& c : chaves) {
+        destinos.entrega(c, codigo, complemento);
+        QString visto = destinos.valorAtual(c);
+        visto.remove(QLatin1Char('.'));
+        if (visto != codigo)
+            faltam << c;
+    }
+    return faltam.join(QLatin1Char(' '));
+}
+
+// Every key of the editor is registered, and its code field takes what the picker hands it.
+void confereChaves(const QStringList& produto, const QStringList& ncm, const QStringList& moeda)
+{
+    QCOMPARE(semCampo(DestinosEscolha::produto(), produto), QString());
+    QCOMPARE(semCampo(DestinosEscolha::ncm(), ncm), QString());
+    QCOMPARE(semCampo(DestinosEscolha::moeda(), moeda), QString());
+    QCOMPARE(naoRecebem(DestinosEscolha::produto(), produto, QStringLiteral("P002"), QStringLiteral("Produto dois")),
+             QString());
+    QCOMPARE(naoRecebem(DestinosEscolha::ncm(), ncm, ItensTeste::Ncm1, ItensTeste::UnidadeEst), QString());
+    QCOMPARE(naoRecebem(DestinosEscolha::moeda(), moeda, QStringLiteral("220"), QString()), QString());
+}
+
 // The index of the editor's tab that holds the control `nome`.
 int abaCom(EditorTeste::Ambiente& a, const QString& nome)
 {
@@ -79,29 +106,22 @@ private slots:
     void editorMensalTemCampoParaCadaChave()
     {
         EditorTeste::Ambiente a;
-        QVERIFY(a.novaMensal());
-        QCOMPARE(semCampo(DestinosEscolha::produto(),
-                          lista({"produto100NacionalMensal", "produtoDCREPIcomPPBMensal", "produtoDCRPIcomPPBMensal",
-                                 "produtoPEMensal", "produtoPIsemPPBMensal", "InsumoPIsemPPBMensal"})),
-                 QString());
-        QCOMPARE(semCampo(DestinosEscolha::ncm(), lista({"produto100NacionalMensal", "produtoPEMensal",
-                                                         "produtoPIsemPPBMensal", "InsumoPIsemPPBMensal"})),
-                 QString());
-        QCOMPARE(semCampo(DestinosEscolha::moeda(), chavesMoeda(QStringLiteral("Mensal"))), QString());
+        ItensTeste::naAba(a, false, 0);
         QCOMPARE(chavesMoeda(QStringLiteral("Mensal")).value(0), QStringLiteral("produtoPEMensalDIProd"));
+        confereChaves(lista({"produto100NacionalMensal", "produtoDCREPIcomPPBMensal", "produtoDCRPIcomPPBMensal",
+                             "produtoPEMensal", "produtoPIsemPPBMensal", "InsumoPIsemPPBMensal"}),
+                      lista({"produto100NacionalMensal", "produtoPEMensal", "produtoPIsemPPBMensal",
+                             "InsumoPIsemPPBMensal"}),
+                      chavesMoeda(QStringLiteral("Mensal")));
     }
 
     void editorIndividualTemCampoParaCadaChave()
     {
         EditorTeste::Ambiente a;
-        QVERIFY(a.novaIndividual());
-        QCOMPARE(semCampo(DestinosEscolha::produto(),
-                          lista({"produto", "insumo", "produtoPE", "produtoPIcomPPBDCRE", "produtoPIcomPPBDCR",
-                                 "produto100Nacional"})),
-                 QString());
-        QCOMPARE(semCampo(DestinosEscolha::ncm(), lista({"produtoPE", "produto", "insumo", "produto100Nacional"})),
-                 QString());
-        QCOMPARE(semCampo(DestinosEscolha::moeda(), chavesMoeda(QString())), QString());
+        ItensTeste::naAba(a, true, 0);
+        confereChaves(lista({"produto", "insumo", "produtoPE", "produtoPIcomPPBDCRE", "produtoPIcomPPBDCR",
+                             "produto100Nacional"}),
+                      lista({"produtoPE", "produto", "insumo", "produto100Nacional"}), chavesMoeda(QString()));
     }
 
     // On the foreign-product tab the NCM picker fills the NCM, its description and unit, and the product picker the
