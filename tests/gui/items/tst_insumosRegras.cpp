@@ -1,0 +1,178 @@
+// The page "Insumos" of the tab "PI sem PPB": the checks of an input in their order, and the rule that an input
+// looks the same (NCM, unit, rates) under every product of the declaration or of the exit invoice.
+#include "ItensTeste.h"
+
+#include <QCheckBox>
+#include <QTabWidget>
+
+using namespace ItensTeste;
+
+namespace {
+
+const QString IncluirInsumo = QStringLiteral("cmdIncluirInsumo");
+
+void cadastraInsumos()
+{
+    for (const char* c : {"INS1", "INS2"})
+        BancoTeste::executa(QStringLiteral("INSERT INTO PRODUTO (CD_INT_PRODUTO, NM_INT_PRODUTO) VALUES (?, ?)"),
+                            {QString::fromLatin1(c), QStringLiteral("Insumo ") + QString::fromLatin1(c)});
+}
+
+void paginaInsumos(Ambiente& a)
+{
+    a.campo<QTabWidget>(QStringLiteral("tabPIsemPPB"))->setCurrentIndex(1);
+}
+
+void produtoMensal(Ambiente& a, const QString& produto)
+{
+    a.digita(QStringLiteral("mskNumNCM_TabPIsemPPB"), Ncm1);
+    a.digita(QStringLiteral("txtCodProdPIsemPPB"), produto);
+    a.escolhe(QStringLiteral("cboUnidadePIsemPPB"), QStringLiteral("UN"));
+    a.escolhe(QStringLiteral("cboLocalPIsemPPB"), Local1);
+    a.digita(QStringLiteral("mskPIsemPPB(3)"), QStringLiteral("10"));
+    a.sai(QStringLiteral("cmdIncluir_tabPIsemPPB_CCI"));
+    a.clica(QStringLiteral("cmdIncluir_tabPIsemPPB_CCI"));
+}
+
+struct Insumo {
+    QString ncm = Ncm2;
+    QString codigo = QStringLiteral("INS1");
+    QString unidade = QStringLiteral("UN");
+    QString quantidade = QStringLiteral("2");
+    bool ipi = false;  // the IPI rate check, with a rate and its grounds
+};
+
+void insumoMensal(Ambiente& a, const Insumo& i)
+{
+    a.digita(QStringLiteral("mskNumNCMInsumo"), i.ncm);
+    a.digita(QStringLiteral("txtCodInsPIsemPPB"), i.codigo);
+    a.escolhe(QStringLiteral("cboUnidadeInsumo"), i.unidade);
+    a.digita(QStringLiteral("mskPIsemPPB(4)"), i.quantidade);
+    if (i.ipi) {
+        a.clica(QStringLiteral("chk_Aliquota_tabPIsemPPBTIPI"));
+        a.digita(QStringLiteral("mskPIsemPPB(6)"), QStringLiteral("3"));
+        a.digita(QStringLiteral("txtJustifLegalAliqIPIPIsemPPB"), QStringLiteral("Lei 123"));
+    }
+    a.sai(IncluirInsumo);
+}
+
+// Two products, P001 and P002, on the monthly tab; INS1 under P001 with NCM 3925.90.90, unit UN and no rate.
+void doisProdutosUmInsumo(Ambiente& a)
+{
+    naAba(a, false, 3);
+    cadastraInsumos();
+    produtoMensal(a, QStringLiteral("P001"));
+    produtoMensal(a, QStringLiteral("P002"));
+    paginaInsumos(a);
+    a.escolhe(QStringLiteral("cboDocProdutoPIsemPPB"), QStringLiteral("P001"));
+    insumoMensal(a, Insumo{});
+    a.clica(IncluirInsumo);
+    a.escolhe(QStringLiteral("cboDocProdutoPIsemPPB"), QStringLiteral("P002"));
+}
+
+}  // namespace
+
+class tst_insumosRegras : public QObject {
+    Q_OBJECT
+private slots:
+    void validacaoDoInsumoMensalNaOrdem()
+    {
+        Ambiente a;
+        naAba(a, false, 3);
+        cadastraInsumos();
+        produtoMensal(a, QStringLiteral("P001"));
+        paginaInsumos(a);
+        auto recusa = [&] {
+            a.msgs.responde(Msg::OK);
+            a.clica(IncluirInsumo);
+        };
+        recusa();
+        a.escolhe(QStringLiteral("cboDocProdutoPIsemPPB"), QStringLiteral("P001"));
+        recusa();
+        a.digita(QStringLiteral("mskNumNCMInsumo"), QStringLiteral("3925909"));
+        recusa();
+        a.digita(QStringLiteral("mskNumNCMInsumo"), Ncm2);
+        recusa();
+        a.digita(QStringLiteral("txtCodInsPIsemPPB"), QStringLiteral("XX"));
+        recusa();
+        a.digita(QStringLiteral("txtCodInsPIsemPPB"), QStringLiteral("INS1"));
+        recusa();
+        a.escolhe(QStringLiteral("cboUnidadeInsumo"), QStringLiteral("UN"));
+        recusa();
+        a.digita(QStringLiteral("mskPIsemPPB(4)"), QStringLiteral("0"));
+        recusa();
+        a.digita(QStringLiteral("mskPIsemPPB(4)"), QStringLiteral("2"));
+        a.clica(QStringLiteral("chk_Aliquota_tabPIsemPPB"));
+        recusa();
+        a.digita(QStringLiteral("mskPIsemPPB(5)"), QStringLiteral("4"));
+        recusa();
+        a.digita(QStringLiteral("txtJustifLegalAliqIIPIsemPPB"), QStringLiteral("Lei 1"));
+        a.clica(QStringLiteral("chk_Aliquota_tabPIsemPPBTIPI"));
+        recusa();
+        a.digita(QStringLiteral("mskPIsemPPB(6)"), QStringLiteral("4"));
+        recusa();
+        QCOMPARE(a.msgs.textos(),
+                 (QStringList{QStringLiteral("O produto referente a este insumo deve ser previamente selecionado."),
+                              QStringLiteral("O campo número da NCM deve ser preenchido."),
+                              QStringLiteral("O campo número da NCM não possui um código válido."),
+                              QStringLiteral("O campo código do insumo deve ser selecionado."),
+                              QStringLiteral("O campo código do insumo não possui um código válido."),
+                              QStringLiteral("O campo unidade de medida comercial deve ser selecionado."),
+                              QStringLiteral("O campo quantidade insumo por unidade de produto deve ser preenchido."),
+                              QStringLiteral("O campo quantidade insumo por unidade de produto deve ser maior que zero."),
+                              QStringLiteral("É obrigatório o preenchimento da alíquota de II."),
+                              QStringLiteral("O campo fundamentação legal para a alíquota de II deve ser preenchido."),
+                              QStringLiteral("É obrigatório o preenchimento da alíquota de IPI."),
+                              QStringLiteral("O campo fundamentação legal para a alíquota de IPI deve ser preenchido.")}));
+        QCOMPARE(conta(QStringLiteral("INSUMO_ITEM_VRT_MEN")), 0);
+    }
+
+    void insumoDeOutroProdutoDiscorda_data()
+    {
+        QTest::addColumn<QString>("ncm");
+        QTest::addColumn<QString>("unidade");
+        QTest::addColumn<bool>("ipi");
+        QTest::addColumn<QString>("mensagem");
+        QTest::newRow("NCM") << Ncm1 << QStringLiteral("UN") << false
+                             << QStringLiteral("A NCM informada deve ser igual a 3925.90.90, que foi informada em "
+                                               "outro(s) registro(s) deste insumo.");
+        QTest::newRow("unidade") << Ncm2 << QStringLiteral("KG") << false
+                                 << QStringLiteral("A unidade de medida informada deve ser UN, que foi informada em "
+                                                   "outro(s) registro(s) deste insumo.");
+        QTest::newRow("IPI") << Ncm2 << QStringLiteral("UN") << true
+                             << QStringLiteral("Não foi informada Alíquota de IPI anteriormente.");
+    }
+    void insumoDeOutroProdutoDiscorda()
+    {
+        QFETCH(QString, ncm);
+        QFETCH(QString, unidade);
+        QFETCH(bool, ipi);
+        QFETCH(QString, mensagem);
+        Ambiente a;
+        doisProdutosUmInsumo(a);
+        QCOMPARE(conta(QStringLiteral("INSUMO_ITEM_VRT_MEN")), 1);
+        Insumo i;
+        i.ncm = ncm;
+        i.unidade = unidade;
+        i.ipi = ipi;
+        i.quantidade = QStringLiteral("7");
+        insumoMensal(a, i);
+        a.msgs.responde(Msg::OK);
+        a.clica(IncluirInsumo);
+        QCOMPARE(a.msgs.textos(), QStringList{mensagem});
+        QCOMPARE(conta(QStringLiteral("INSUMO_ITEM_VRT_MEN")), 1);
+    }
+
+    void alterarInsumoSemLinhaEscolhida()
+    {
+        Ambiente a;
+        doisProdutosUmInsumo(a);
+        a.campo(QStringLiteral("cmdAlterarInsumo"))->setEnabled(true);
+        a.msgs.responde(Msg::OK);
+        a.clica(QStringLiteral("cmdAlterarInsumo"));
+        QCOMPARE(a.msgs.textos(), QStringList{QStringLiteral("Inclua um insumo ou selecione no grid")});
+    }
+};
+
+QTEST_MAIN(tst_insumosRegras)
+#include "tst_insumosRegras.moc"
