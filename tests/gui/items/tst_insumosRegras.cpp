@@ -70,6 +70,34 @@ void doisProdutosUmInsumo(Ambiente& a)
     a.escolhe(QStringLiteral("cboDocProdutoPIsemPPB"), QStringLiteral("P002"));
 }
 
+// An item of the exit invoice on the individual tab, with the product's code.
+void produtoIndividual(Ambiente& a, const QString& item, const QString& produto)
+{
+    a.digita(QStringLiteral("txtPIsemPPBNFS(0)"), item);
+    a.digita(QStringLiteral("mskPIsemPPBNFS(0)"), Ncm1);
+    a.digita(QStringLiteral("txtCodProdPIsemPPB"), produto);
+    a.escolhe(QStringLiteral("cboUnidadePIsemPPB"), QStringLiteral("UN"));
+    a.digita(QStringLiteral("mskPIsemPPBNFS(1)"), QStringLiteral("5"));
+    a.digita(QStringLiteral("mskPIsemPPBNFS(2)"), QStringLiteral("12,5"));
+    a.sai(QStringLiteral("cmdIncluir_tabPIsemPPB_NFS"));
+    a.clica(QStringLiteral("cmdIncluir_tabPIsemPPB_NFS"));
+}
+
+// INS1 under the chosen item; `ii` a differing II rate with its grounds ("" none).
+void insumoIndividual(Ambiente& a, const QString& ii)
+{
+    a.digita(QStringLiteral("mskPIsemPPBNFS(5)"), Ncm2);
+    a.digita(QStringLiteral("txtCodInsPIsemPPB"), QStringLiteral("INS1"));
+    a.escolhe(QStringLiteral("cboUnidadeInsumo"), QStringLiteral("UN"));
+    a.digita(QStringLiteral("mskPIsemPPBNFS(6)"), QStringLiteral("2"));
+    if (!ii.isEmpty()) {
+        a.clica(QStringLiteral("chk_AliquotaTEC_tabPIsemPPB"));
+        a.digita(QStringLiteral("mskPIsemPPBNFS(7)"), ii);
+        a.digita(QStringLiteral("txtPIsemPPBNFS(8)"), QStringLiteral("Lei 1"));
+    }
+    a.sai(IncluirInsumo);
+}
+
 }  // namespace
 
 class tst_insumosRegras : public QObject {
@@ -171,6 +199,65 @@ private slots:
         a.msgs.responde(Msg::OK);
         a.clica(QStringLiteral("cmdAlterarInsumo"));
         QCOMPARE(a.msgs.textos(), QStringList{QStringLiteral("Inclua um insumo ou selecione no grid")});
+    }
+    void validacaoDoInsumoIndividualNaOrdem()
+    {
+        Ambiente a;
+        naAba(a, true, 3);
+        cadastraInsumos();
+        produtoIndividual(a, QStringLiteral("1"), QStringLiteral("P001"));
+        paginaInsumos(a);
+        auto recusa = [&] {
+            a.msgs.responde(Msg::OK);
+            a.clica(IncluirInsumo);
+        };
+        recusa();
+        a.escolhe(QStringLiteral("cboItem_PIsemPPB_Insumo"), QStringLiteral("1"));
+        recusa();
+        a.digita(QStringLiteral("mskPIsemPPBNFS(5)"), Ncm2);
+        recusa();
+        a.digita(QStringLiteral("txtCodInsPIsemPPB"), QStringLiteral("XX"));
+        recusa();
+        a.digita(QStringLiteral("txtCodInsPIsemPPB"), QStringLiteral("INS1"));
+        recusa();
+        a.escolhe(QStringLiteral("cboUnidadeInsumo"), QStringLiteral("UN"));
+        recusa();
+        a.digita(QStringLiteral("mskPIsemPPBNFS(6)"), QStringLiteral("2"));
+        a.clica(QStringLiteral("chk_AliquotaTIPI_tabPIsemPPB"));
+        a.digita(QStringLiteral("mskPIsemPPBNFS(8)"), QStringLiteral("3"));
+        recusa();
+        QCOMPARE(a.msgs.textos(),
+                 (QStringList{QStringLiteral("O produto deve ser selecionado."),
+                              QStringLiteral("O campo número da NCM deve ser preenchido."),
+                              QStringLiteral("O campo código do insumo deve ser selecionado."),
+                              // The input's code is refused in the product's words.
+                              QStringLiteral("O campo código do Produto não possui um código válido."),
+                              QStringLiteral("A unidade de medida deve ser selecionada!"),
+                              QStringLiteral("O campo quantidade deve ser preenchido."),
+                              QStringLiteral("Os campos alíquota IPI e justificativa legal devem ser preenchidos.")}));
+        QCOMPARE(conta(QStringLiteral("INSUMO_ITEM_NFS")), 0);
+    }
+
+    // The first row of an input in the declaration has no rate: a later one may not bring one.
+    void insumoIndividualSemAliquotaNoPrimeiro()
+    {
+        Ambiente a;
+        naAba(a, true, 3);
+        cadastraInsumos();
+        produtoIndividual(a, QStringLiteral("1"), QStringLiteral("P001"));
+        produtoIndividual(a, QStringLiteral("2"), QStringLiteral("P002"));
+        paginaInsumos(a);
+        a.escolhe(QStringLiteral("cboItem_PIsemPPB_Insumo"), QStringLiteral("1"));
+        insumoIndividual(a, QString());
+        a.clica(IncluirInsumo);
+        QCOMPARE(a.msgs.textos(), QStringList());
+        a.escolhe(QStringLiteral("cboItem_PIsemPPB_Insumo"), QStringLiteral("2"));
+        insumoIndividual(a, QStringLiteral("4"));
+        a.msgs.responde(Msg::OK);
+        a.clica(IncluirInsumo);
+        QCOMPARE(a.msgs.textos(), QStringList{QStringLiteral("Alíquota II não deve ser informada.")});
+        QCOMPARE(conta(QStringLiteral("INSUMO_ITEM_NFS")), 1);
+        QCOMPARE(conta(QStringLiteral("JUST_DIF_ALIQ_INS_VRT_IND")), 0);
     }
 };
 
