@@ -259,6 +259,58 @@ private slots:
         QCOMPARE(conta(QStringLiteral("INSUMO_ITEM_NFS")), 1);
         QCOMPARE(conta(QStringLiteral("JUST_DIF_ALIQ_INS_VRT_IND")), 0);
     }
+    void validacaoDoProdutoMensalNaOrdem()
+    {
+        Ambiente a;
+        naAba(a, false, 3);
+        auto recusa = [&] {
+            a.msgs.responde(Msg::OK);
+            a.clica(QStringLiteral("cmdIncluir_tabPIsemPPB_CCI"));
+        };
+        a.digita(QStringLiteral("mskNumNCM_TabPIsemPPB"), Ncm1);
+        a.digita(QStringLiteral("txtCodProdPIsemPPB"), QStringLiteral("P001"));
+        recusa();
+        a.escolhe(QStringLiteral("cboUnidadePIsemPPB"), QStringLiteral("UN"));
+        recusa();
+        a.escolhe(QStringLiteral("cboLocalPIsemPPB"), Local1);
+        recusa();
+        QCOMPARE(a.msgs.textos(),
+                 (QStringList{QStringLiteral("O campo unidade de medida comercial deve ser selecionado."),
+                              QStringLiteral("O campo local de destino deve ser selecionado."),
+                              QStringLiteral("O campo quantidade por local deve ser preenchido.")}));
+        QTRY_COMPARE(QApplication::focusWidget(), a.campo(QStringLiteral("mskPIsemPPB(3)")));
+        QCOMPARE(conta(QStringLiteral("ITEM_VRT_MEN")), 0);
+    }
+
+    void produtoMensalNaoMudaDeCodigo()
+    {
+        Ambiente a;
+        naAba(a, false, 3);
+        produtoMensal(a, QStringLiteral("P001"));
+        escolheLinha(a, QStringLiteral("grdConsultaProduto_fraPIsemPPB"), 0);
+        a.digita(QStringLiteral("txtCodProdPIsemPPB"), QStringLiteral("P002"));
+        a.msgs.responde(Msg::OK);
+        a.clica(QStringLiteral("cmdAlterar_tabPIsemPPB_CCI"));
+        QCOMPARE(a.msgs.textos(), QStringList{QStringLiteral("O produto não pode ser alterado.")});
+        QCOMPARE(conta(QStringLiteral("ITEM_VRT_MEN"), QStringLiteral("CD_INT_PRODUTO = 'P001'")), 1);
+    }
+
+    // Alterar leaves the NCM rows alone: the old NCM keeps its row and the new one gets none.
+    void alterarANcmDoProdutoNaoMexeNasNcmsDaDeclaracao()
+    {
+        Ambiente a;
+        naAba(a, false, 3);
+        produtoMensal(a, QStringLiteral("P001"));
+        QCOMPARE(conta(QStringLiteral("NCM_VRT"), QStringLiteral("CD_NCM_PRODUTO = ? AND IN_MOD_INTERNACAO = '3'"), {Ncm1}), 1);
+        escolheLinha(a, QStringLiteral("grdConsultaProduto_fraPIsemPPB"), 0);
+        a.digita(QStringLiteral("mskNumNCM_TabPIsemPPB"), Ncm2);
+        a.sai(QStringLiteral("cmdAlterar_tabPIsemPPB_CCI"));
+        a.clica(QStringLiteral("cmdAlterar_tabPIsemPPB_CCI"));
+        QCOMPARE(a.msgs.textos(), QStringList());
+        QCOMPARE(conta(QStringLiteral("ITEM_VRT_MEN"), QStringLiteral("CD_NCM_PRODUTO = ?"), {Ncm2}), 1);
+        QCOMPARE(conta(QStringLiteral("NCM_VRT"), QStringLiteral("CD_NCM_PRODUTO = ?"), {Ncm1}), 1);
+        QCOMPARE(conta(QStringLiteral("NCM_VRT"), QStringLiteral("CD_NCM_PRODUTO = ?"), {Ncm2}), 0);
+    }
 };
 
 QTEST_MAIN(tst_insumosRegras)
