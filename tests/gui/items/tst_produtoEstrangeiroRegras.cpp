@@ -95,6 +95,61 @@ private slots:
         a.clica(t("cmdAlterar_tabProdutoEstrangeiro_CCI"));
         QCOMPARE(a.msgs.textos(), QStringList{t("Inclua um produto ou selecione no grid")});
     }
+    // A second destination that disagrees on the NCM sends the focus to the unit, not to the NCM; a repeated
+    // place sends it to Incluir.
+    void focoDasRecusasDoSegundoDestino()
+    {
+        Ambiente a;
+        naAbaProduto(a, false);
+        ProdutoMensal p;
+        incluiMensal(a, p);
+        ProdutoMensal outraNcm = p;
+        outraNcm.ncm = QStringLiteral("39252000");
+        outraNcm.local = Local2;
+        digitaMensal(a, outraNcm);
+        a.msgs.responde(Msg::OK);
+        a.clica(t("cmdIncluir_tabProdutoEstrangeiro_CCI"));
+        QTRY_COMPARE(QApplication::focusWidget(), a.campo(t("cboUnidadePE")));
+        digitaMensal(a, p);
+        a.msgs.responde(Msg::OK);
+        a.clica(t("cmdIncluir_tabProdutoEstrangeiro_CCI"));
+        QTRY_COMPARE(QApplication::focusWidget(), a.campo(t("cmdIncluir_tabProdutoEstrangeiro_CCI")));
+        QCOMPARE(a.msgs.textos(), (QStringList{t("Este produto possui outro(s) registro(s) com NCM diferente!"),
+                                               t("Produto já incluído para este local de destino.")}));
+        QCOMPARE(BancoTeste::conta(t("DESTINO_ITEM_VRT_MEN")), 1);
+    }
+
+    void alterarMensalVoltaAoBotaoDoProduto()
+    {
+        Ambiente a;
+        naAbaProduto(a, false);
+        incluiMensal(a, ProdutoMensal());
+        escolheLinha(a, Grade, 0);
+        QVERIFY(a.campo(t("cmdExcluir_tabProdutoEstrangeiro_CCI"))->isEnabled());
+        a.digita(t("mskPE(2)"), t("15"));
+        a.sai(t("cmdAlterar_tabProdutoEstrangeiro_CCI"));
+        a.clica(t("cmdAlterar_tabProdutoEstrangeiro_CCI"));
+        QCOMPARE(a.msgs.textos(), QStringList());
+        QCOMPARE(BancoTeste::valor(t("SELECT QT_PROD_LOC_DEST FROM DESTINO_ITEM_VRT_MEN")).toString(), t("15,00000"));
+        QTRY_COMPARE(QApplication::focusWidget(), a.campo(t("cmdAssistenteCCI_tabProdutoEstrangeiro_Mensal")));
+        QVERIFY(!a.campo(t("cmdAlterar_tabProdutoEstrangeiro_CCI"))->isEnabled());
+        QVERIFY(!a.campo(t("cmdExcluir_tabProdutoEstrangeiro_CCI"))->isEnabled());
+    }
+
+    // The individual editor's Alterar and Excluir act on a chosen item only and says nothing without one.
+    void alterarEExcluirIndividualSemLinhaNadaFazem()
+    {
+        Ambiente a;
+        naAbaProduto(a, true);
+        incluiIndividual(a, ProdutoIndividual());
+        digitaIndividual(a, ProdutoIndividual());
+        a.campo(t("cmdAlterar_tabProdutoEstrangeiro"))->setEnabled(true);
+        a.clica(t("cmdAlterar_tabProdutoEstrangeiro"));
+        a.campo(t("cmdExcluir_tabProdutoEstrangeiro"))->setEnabled(true);
+        a.clica(t("cmdExcluir_tabProdutoEstrangeiro"));
+        QCOMPARE(a.msgs.textos(), QStringList());
+        QCOMPARE(BancoTeste::conta(t("ITEM_NFS")), 1);
+    }
 };
 
 QTEST_MAIN(tst_produtoEstrangeiroRegras)
