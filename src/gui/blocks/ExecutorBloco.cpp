@@ -559,7 +559,8 @@ void ExecutorBloco::incluir()
 void ExecutorBloco::alterar()
 {
     if (m_chave.isEmpty()) {
-        recusa(m_d.msgSemSelecao, m_botoes->cmdAlterar);
+        if (!m_d.msgSemSelecao.isEmpty())
+            recusa(m_d.msgSemSelecao, m_botoes->cmdAlterar);
         return;
     }
     if (!m_d.regras.isEmpty()) {
@@ -598,7 +599,8 @@ void ExecutorBloco::alterar()
 void ExecutorBloco::excluir()
 {
     if (m_chave.isEmpty()) {
-        recusa(m_d.msgSemSelecao, m_botoes->cmdExcluir);
+        if (!m_d.msgSemSelecao.isEmpty())
+            recusa(m_d.msgSemSelecao, m_botoes->cmdExcluir);
         return;
     }
     if (!passaRegras(m_d.regrasExcluir, Operacao::Excluir, m_botoes->cmdExcluir))

@@ -90,7 +90,7 @@ struct DescricaoBloco {
     QString tituloGrade;   // the caption of the frame around the grid
     QList<ColunaGrade> colunasGrade;
     QString padraoBotoes;  // see QuatroBotoes
-    QString msgSemSelecao; // Alterar or Excluir with no row chosen
+    QString msgSemSelecao; // Alterar or Excluir with no row chosen; empty: the button does nothing then
     QString msgDuplicado;  // the key already stands under the parent
 
     QString tituloCampos;  // with a text, the fields stand in a frame of that caption

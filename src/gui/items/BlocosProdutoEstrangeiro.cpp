@@ -402,6 +402,8 @@ DescricaoBloco Individual(const ContextoItens& contexto, const TaxasProduto& x)
         vazio(valorNfs(3), t("O campo quantidade deve ser preenchido.")),
     };
     comum(d, x);
+    // Here Alterar and Excluir act on a chosen item only and say nothing without one.
+    d.msgSemSelecao.clear();
     d.regras += regrasOutrosItens(contexto.idVrt, x, botaoNcm);
     d.regras << numeroItemLivre(CampoItem, t("NR_ITEM_NF_SAIDA"));
     d.linhas = [colunas = nomes(d.colunasGrade)](const QVariant& pai) { return LinhasNota(pai.toLongLong(), colunas); };
