@@ -3,6 +3,8 @@
 
 #include "gui/editor/EditorDeclaracao.h"
 
+#include <QLabel>
+
 using namespace EditorTeste;
 
 namespace {
@@ -44,6 +46,7 @@ private slots:
         a.msgs.limpa();
         a.digita(QStringLiteral("txtDadosGeraisMensal(0)"), QStringLiteral("3"));
         a.digita(QStringLiteral("txtDadosGeraisMensal(1)"), QStringLiteral("2009"));
+        a.sai(QStringLiteral("txtDadosGerais(1)"));
         a.msgs.responde(Msg::Yes);
         a.fechar();
         QVERIFY(!a.editor());
