@@ -367,8 +367,6 @@ void EditorDeclaracao::closeEvent(QCloseEvent* evento)
     }
     m_fechada = true;
     setWindowTitle(QString());
-    // The monthly editor leaves its identification in the panel until the next command replaces it.
-    if (m_config.individual)
-        DefinePainelStatus(2, QString());
+    DefinePainelStatus(2, QString());
     evento->accept();
 }
