@@ -2,6 +2,7 @@
 
 #include "gui/items/PaginaDocumentoOrigem.h"
 #include "gui/items/AliquotaDiferente.h"
+#include "gui/items/CamposItem.h"
 #include "gui/widgets/FieldFocus.h"
 
 #include <QTabWidget>
@@ -20,6 +21,8 @@ AbaProdutoEstrangeiro::AbaProdutoEstrangeiro(const ContextoItens& contexto, QWid
     taxas.ii->entregaA(*produto);
     taxas.ipi->entregaA(*produto);
     produto->constroi(pagina);
+    // The product and NCM pickers write into this page's fields.
+    CamposItem::registraDestinos(*produto);
     connect(produto, &ExecutorBloco::recusou, this, &AbaProdutoEstrangeiro::mostraProduto);
     documentoOrigem = new PaginaDocumentoOrigem(contexto.individual, contexto.idVrt, contexto.idNfs);
     documentoOrigem->setObjectName(QStringLiteral("tabProdutoEstrangeiro(1)"));

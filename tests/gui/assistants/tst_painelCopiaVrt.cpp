@@ -239,6 +239,87 @@ private slots:
         QVERIFY(controle<QGroupBox>(tela, "fraAssistenteVRT")->isVisible());
         QCOMPARE(banco.conta(t("VRT")), 1);
     }
+    // The expected identification is only a display: the counter plus one with this year's two digits, even when
+    // the counter's year is an older one; with no counter row, the first number of this year.
+    void identificacaoPrevistaDoContadorComOAnoAtual_data()
+    {
+        QTest::addColumn<QString>("numerador");
+        QTest::addColumn<QString>("numero");
+        QTest::newRow("ano antigo") << t("41, 9") << t("00042/");
+        QTest::newRow("sem linha") << QString() << t("00001/");
+    }
+
+    void identificacaoPrevistaDoContadorComOAnoAtual()
+    {
+        QFETCH(QString, numerador);
+        QFETCH(QString, numero);
+        BancoTeste banco;
+        CenariosGravacao::insereMensalCompleta(t("00012/09"));
+        banco.executa(t("DELETE FROM ARQUIVO_NUMERADOR"));
+        if (!numerador.isEmpty())
+            banco.executa(t("INSERT INTO ARQUIVO_NUMERADOR (NUM_ULTIMA_VRT, ANO) VALUES (%1)").arg(numerador));
+        frmAssistenteVRT tela;
+        tela.FuncaoForm(frmAssistenteVRT::Copiar);
+        tela.show();
+        QTest::mouseClick(controle<QPushButton>(tela, "cmdOk"), Qt::LeftButton);
+        const QString ano = QStringLiteral("%1").arg(QDate::currentDate().year() % 100, 2, 10, QLatin1Char('0'));
+        QCOMPARE(controle<QLineEdit>(tela, "txtIdentificadorNovaVRT")->text(), numero + ano);
+        QVERIFY(!controle<QLineEdit>(tela, "txtIdentificadorNovaVRT")->isEnabled());
+        // Opening the panel takes no number.
+        QCOMPARE(banco.conta(t("ARQUIVO_NUMERADOR")), numerador.isEmpty() ? 0 : 1);
+    }
+
+    // Original turns the number field off again after Retificadora turned it on; the two options exclude each other.
+    void originalDesligaONumero()
+    {
+        BancoTeste banco;
+        CenariosGravacao::insereMensalCompleta(t("00012/09"));
+        frmAssistenteVRT tela;
+        tela.FuncaoForm(frmAssistenteVRT::Copiar);
+        tela.show();
+        QTest::mouseClick(controle<QPushButton>(tela, "cmdOk"), Qt::LeftButton);
+        auto* numero = controle<MaskedField>(tela, "mskNumVRT");
+        auto* retificadora = controle<QRadioButton>(tela, "OptRetificacao");
+        auto* original = controle<QRadioButton>(tela, "OptNormal");
+        QTest::mouseClick(retificadora, Qt::LeftButton, {}, QPoint(6, 6));
+        QVERIFY(numero->isEnabled());
+        QTest::mouseClick(original, Qt::LeftButton, {}, QPoint(6, 6));
+        QVERIFY(original->isChecked());
+        QVERIFY(!retificadora->isChecked());
+        QVERIFY(!numero->isEnabled());
+        QTest::mouseClick(retificadora, Qt::LeftButton, {}, QPoint(6, 6));
+        QVERIFY(!original->isChecked());
+        QVERIFY(numero->isEnabled());
+    }
+
+    // The panel's texts, the label of the source's identification without its cedilla included.
+    void rotulosDoPainel()
+    {
+        BancoTeste banco;
+        CenariosGravacao::insereMensalCompleta(t("00012/09"));
+        frmAssistenteVRT tela;
+        tela.FuncaoForm(frmAssistenteVRT::Copiar);
+        tela.show();
+        QTest::mouseClick(controle<QPushButton>(tela, "cmdOk"), Qt::LeftButton);
+        auto* painel = controle<PainelCopiaVrt>(tela, "FraAssistenteVRT_Copia");
+        QStringList rotulos;
+        for (const QLabel* l : painel->findChildren<QLabel*>())
+            rotulos << l->text();
+        for (const char* esperado : {"Identificaçao :", "Tipo :", "Internador :", "Data :", "Identificação :",
+                                     "Número VRT :"})
+            QVERIFY2(rotulos.contains(t(esperado)), esperado);
+        QStringList quadros;
+        for (const QGroupBox* g : painel->findChildren<QGroupBox*>())
+            quadros << g->title();
+        QCOMPARE(quadros, (QStringList{t("Dados VRT"), t("Nova VRT"), t("Transformar a cópia em")}));
+        QCOMPARE(controle<QRadioButton>(tela, "OptRetificacao")->text(), t("Retificadora"));
+        QCOMPARE(controle<QRadioButton>(tela, "OptNormal")->text(), t("Original"));
+        QCOMPARE(controle<QPushButton>(tela, "cmdCancelaCopia")->text(), t("Cancela"));
+        QCOMPARE(controle<MaskedField>(tela, "mskNumVRT")->mask(), t("##/#######-#"));
+        // Filled from the row: the internador and the date as the list shows them.
+        QCOMPARE(controle<QLineEdit>(tela, "txtInternador")->text(), tela.grdAssistenteVRT->rowTexts(0).value(1));
+        QCOMPARE(controle<QLineEdit>(tela, "txtData")->text(), tela.grdAssistenteVRT->rowTexts(0).value(2));
+    }
 };
 
 QTEST_MAIN(tst_painelCopiaVrt)

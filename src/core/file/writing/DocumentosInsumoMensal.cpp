@@ -29,7 +29,7 @@ DocumentosInsumoMensal::DocumentosInsumoMensal(const QString& id)
             id, [](Grupo& g, const LinhaRegistro& r, const ComandoSqlite&) { g.nfa.append(r); });
     carrega(35,
             QStringLiteral("SELECT d.CD_INT_INSUMO, d.CD_LOCAL_DESTINO, d.NR_DI, d.NR_DI_ANTIGA, "
-                           "CASE WHEN d.NR_DI_ANTIGA IS NULL OR d.NR_DI_ANTIGA = ' ' THEN 'S' ELSE 'N' END, "
+                           "CASE WHEN d.NR_DI_ANTIGA IS NULL OR d.NR_DI_ANTIGA = ' ' THEN 'S' ELSE 'N' END AS _SEM_ANTIGA, "
                            "d.NR_ADICAO_DI, d.NR_ITEM_ADICAO, "
                            "CASE WHEN d.IND_DL_288_67 = 'S' THEN 'S' ELSE 'N' END AS IND_DL_288_67, "
                            "d.QT_INSUMO_UNID_INS, ")

@@ -1,14 +1,11 @@
 #include "core/file/writing/LinhaRegistro.h"
 
 #include "core/file/writing/MapaColunas.h"
-#include "core/rules/Formatadores.h"
 #include "core/store/ComandoSqlite.h"
 
 #include <QHash>
 
 #include <cstring>
-
-using namespace Funcoes;
 
 const QByteArray LinhaRegistro::m_nenhuma;
 
@@ -50,114 +47,204 @@ const FormaVazia& formaVazia(const LayoutRegistro& layout)
     return it.value();
 }
 
-// QChar::isSpace for ASCII: what trimmed() takes away.
+// What trimmed() takes away.
 bool espaco(char c)
 {
     return c == ' ' || (c >= '\t' && c <= '\r');
 }
+bool espaco(QChar c)
+{
+    return c.isSpace();
+}
 
 // Funcoes' emBranco: empty, or nothing but spaces.
-bool emBranco(QByteArrayView v)
+template <typename Vista>
+bool emBranco(Vista v)
 {
-    for (const char c : v) {
+    for (const auto c : v) {
         if (!espaco(c))
             return false;
     }
     return true;
 }
 
-void zeroEsquerda(QByteArrayView v, int tamanho, QByteArray& saida)
+// QString::mid on a view: nothing from beyond the end.
+template <typename Vista>
+Vista meio(Vista v, qsizetype inicio, qsizetype tamanho)
 {
-    if (emBranco(v))
-        v = "0";
-    if (v.size() < tamanho)
-        saida.append(tamanho - v.size(), '0');
-    saida.append(v);
+    if (inicio >= v.size())
+        return Vista();
+    return v.sliced(inicio, qMin(tamanho, v.size() - inicio));
 }
 
-// TiraCaractere of the comma, then ZeroEsquerda: what is left without its commas, zero-filled; "0" for a value
-// that is blank before or after the commas go.
-void decimal(QByteArrayView v, int tamanho, QByteArray& saida)
+// Where a field's text goes: a text, a byte buffer, or the field's own bytes in a record (see NoLugar).
+struct SaidaTexto {
+    QString& s;
+    void poe(QStringView v) { s.append(v); }
+    void enche(char c, qsizetype n)
+    {
+        if (n > 0)
+            s.append(QString(n, QLatin1Char(c)));
+    }
+    void poeConstante(const QString& k) { s.append(k); }
+};
+
+struct SaidaBytes {
+    QByteArray& b;
+    void poe(QByteArrayView v) { b.append(v); }
+    void enche(char c, qsizetype n)
+    {
+        if (n > 0)
+            b.append(n, c);
+    }
+    void poeConstante(const QString& k) { b.append(k.toLatin1()); }
+};
+
+// Straight into a record's bytes, never past the field: `exato()` when the text filled its width exactly. What
+// was written of a text that did not fit is replaced by the caller.
+struct NoLugar {
+    char* d;
+    char* fim;
+    bool cabe = true;
+    void poe(QByteArrayView v)
+    {
+        if (v.size() > fim - d) {
+            cabe = false;
+            return;
+        }
+        if (!v.isEmpty())
+            std::memcpy(d, v.data(), size_t(v.size()));
+        d += v.size();
+    }
+    void enche(char c, qsizetype n)
+    {
+        if (n <= 0)
+            return;
+        if (n > fim - d) {
+            cabe = false;
+            return;
+        }
+        std::memset(d, c, size_t(n));
+        d += n;
+    }
+    void poeConstante(const QString& k) { poe(QByteArrayView(k.toLatin1())); }
+    bool exato() const { return cabe && d == fim; }
+};
+
+// ZeroEsquerda: zeros before the value up to the width; a blank value is "0", so all zeros.
+template <typename Vista, typename Saida>
+void zeroEsquerda(Vista v, qsizetype tamanho, Saida& s)
+{
+    if (emBranco(v)) {
+        s.enche('0', qMax<qsizetype>(tamanho, 1));
+        return;
+    }
+    s.enche('0', tamanho - v.size());
+    s.poe(v);
+}
+
+// TiraCaractere of the comma, then ZeroEsquerda: what is left without its commas, zero-filled; all zeros for a
+// value that is blank before or after the commas go.
+template <typename Vista, typename Saida>
+void decimal(Vista v, qsizetype tamanho, Saida& s)
 {
     qsizetype digitos = 0;
     bool branco = true;
-    for (const char c : v) {
-        if (c != ',') {
+    for (const auto c : v) {
+        if (c != u',') {
             ++digitos;
             branco = branco && espaco(c);
         }
     }
-    if (emBranco(v) || branco) {
-        zeroEsquerda(QByteArrayView(), tamanho, saida);
+    if (branco) {
+        s.enche('0', qMax<qsizetype>(tamanho, 1));
         return;
     }
-    if (digitos < tamanho)
-        saida.append(tamanho - digitos, '0');
-    for (const char c : v) {
-        if (c != ',')
-            saida.append(c);
+    s.enche('0', tamanho - digitos);
+    qsizetype inicio = 0;
+    for (qsizetype i = 0; i <= v.size(); ++i) {
+        if (i == v.size() || v[i] == u',') {
+            if (i > inicio)
+                s.poe(v.sliced(inicio, i - inicio));
+            inicio = i + 1;
+        }
     }
 }
 
-// QString::mid on bytes: nothing from beyond the end.
-QByteArrayView meio(QByteArrayView v, qsizetype inicio, qsizetype tamanho)
+// The one formatting of a field by its kind, on a text (QStringView) or on ASCII bytes (QByteArrayView); a null
+// view is a null value:
+//  N ZeroEsquerda; X BrancoDireita; R BrancoEsquerda; D2/D5/D7 TiraCaractere of the comma, then ZeroEsquerda;
+//  DT characters 5-8, 3-4, 1-2 of ddmmyyyy, then ZeroEsquerda to 8; K the value, or the constant when null;
+//  A the value as it is.
+template <typename Vista, typename Saida>
+void formataCampo(const CampoLayout& campo, Vista v, Saida& s)
 {
-    if (inicio >= v.size())
-        return QByteArrayView();
-    return QByteArrayView(v.data() + inicio, qMin(tamanho, v.size() - inicio));
+    const qsizetype w = campo.tamanho;
+    switch (campo.tipo) {
+    case TipoCampo::N:
+        zeroEsquerda(v, w, s);
+        return;
+    case TipoCampo::X:
+        s.poe(v);
+        s.enche(' ', w - v.size());
+        return;
+    case TipoCampo::R:
+        s.enche(' ', w - v.size());
+        s.poe(v);
+        return;
+    case TipoCampo::D2:
+    case TipoCampo::D5:
+    case TipoCampo::D7:
+        decimal(v, w, s);
+        return;
+    case TipoCampo::DT: {
+        const Vista partes[] = {meio(v, 4, 4), meio(v, 2, 2), meio(v, 0, 2)};
+        qsizetype n = 0;
+        bool branco = true;
+        for (const Vista& p : partes) {
+            n += p.size();
+            branco = branco && emBranco(p);
+        }
+        if (branco) {
+            s.enche('0', 8);
+            return;
+        }
+        s.enche('0', 8 - n);
+        for (const Vista& p : partes)
+            s.poe(p);
+        return;
+    }
+    case TipoCampo::K:
+        if (v.isNull())
+            s.poeConstante(campo.constante);
+        else
+            s.poe(v);
+        return;
+    case TipoCampo::A:
+        s.poe(v);
+        return;
+    }
+}
+
+bool ascii(QByteArrayView v)
+{
+    for (const char c : v) {
+        if (static_cast<unsigned char>(c) >= 0x80)
+            return false;
+    }
+    return true;
 }
 
 }  // namespace
 
 bool LinhaRegistro::formataAscii(const CampoLayout& campo, QByteArrayView valor, QByteArray& saida)
 {
-    for (const char c : valor) {
-        if (static_cast<unsigned char>(c) >= 0x80)
-            return false;
-    }
+    if (!ascii(valor))
+        return false;
     saida.resize(0);
-    const int w = campo.tamanho;
-    switch (campo.tipo) {
-    case TipoCampo::N:
-        zeroEsquerda(valor, w, saida);
-        return true;
-    case TipoCampo::X:
-        saida.append(valor);
-        if (valor.size() < w)
-            saida.append(w - valor.size(), ' ');
-        return true;
-    case TipoCampo::R:
-        if (valor.size() < w)
-            saida.append(w - valor.size(), ' ');
-        saida.append(valor);
-        return true;
-    case TipoCampo::D2:
-    case TipoCampo::D5:
-    case TipoCampo::D7:
-        decimal(valor, w, saida);
-        return true;
-    case TipoCampo::DT: {
-        // Characters 5-8, 3-4 and 1-2 of ddmmyyyy, as far as the value has them.
-        char data[8];
-        qsizetype n = 0;
-        for (const QByteArrayView parte : {meio(valor, 4, 4), meio(valor, 2, 2), meio(valor, 0, 2)}) {
-            for (const char c : parte)
-                data[n++] = c;
-        }
-        zeroEsquerda(QByteArrayView(data, n), 8, saida);
-        return true;
-    }
-    case TipoCampo::K:
-        if (valor.isNull())
-            saida.append(campo.constante.toLatin1());
-        else
-            saida.append(valor);
-        return true;
-    case TipoCampo::A:
-        saida.append(valor);
-        return true;
-    }
-    return false;
+    SaidaBytes s{saida};
+    formataCampo(campo, valor, s);
+    return true;
 }
 
 LinhaRegistro::LinhaRegistro(const LayoutRegistro& layout) : m_layout(&layout)
@@ -202,66 +289,22 @@ void LinhaRegistro::coloca(int indice, const QString& texto)
     m_valores[indice] = texto;
 }
 
-namespace {
-
-// The commonest case of formataAscii, written straight into the record: an N, X or D field whose ASCII value
-// fits its width. False, having written nothing, for anything else.
-bool poeNoLugar(const CampoLayout& c, QByteArrayView v, char* destino)
-{
-    const qsizetype w = c.tamanho;
-    qsizetype n = 0;       // the characters written (without the commas of a decimal)
-    bool branco = true;
-    for (const char ch : v) {
-        if (static_cast<unsigned char>(ch) >= 0x80)
-            return false;
-        if (ch != ',' || c.tipo == TipoCampo::N || c.tipo == TipoCampo::X) {
-            ++n;
-            branco = branco && espaco(ch);
-        }
-    }
-    switch (c.tipo) {
-    case TipoCampo::X:
-        if (v.size() > w)
-            return false;
-        if (!v.isEmpty())
-            std::memcpy(destino, v.data(), size_t(v.size()));
-        std::memset(destino + v.size(), ' ', size_t(w - v.size()));
-        return true;
-    case TipoCampo::N:
-    case TipoCampo::D2:
-    case TipoCampo::D5:
-    case TipoCampo::D7:
-        // A blank value, before or after its commas go, is zero: the field is all zeros.
-        if (branco || emBranco(v)) {
-            std::memset(destino, '0', size_t(w));
-            return true;
-        }
-        if (n > w)
-            return false;
-        std::memset(destino, '0', size_t(w - n));
-        destino += w - n;
-        for (const char ch : v) {
-            if (ch != ',' || c.tipo == TipoCampo::N)
-                *destino++ = ch;
-        }
-        return true;
-    default:
-        return false;
-    }
-}
-
-}  // namespace
-
 void LinhaRegistro::poeUtf8(int indice, QByteArrayView valor)
 {
     const CampoLayout& c = m_layout->campos.at(indice);
-    if (m_exata && poeNoLugar(c, valor, m_linha.data() + (c.posicao - 1)))
-        return;
-    if (m_exata && formataAscii(c, valor, m_formatado) && m_formatado.size() == c.tamanho) {
-        std::memcpy(m_linha.data() + (c.posicao - 1), m_formatado.constData(), size_t(c.tamanho));
+    if (!ascii(valor)) {
+        coloca(indice, formata(c, QString::fromUtf8(valor)));
         return;
     }
-    coloca(indice, formata(c, valor.isNull() ? QString() : QString::fromUtf8(valor)));
+    if (m_exata) {
+        char* campo = m_linha.data() + (c.posicao - 1);
+        NoLugar s{campo, campo + c.tamanho};
+        formataCampo(c, valor, s);
+        if (s.exato())
+            return;
+    }
+    formataAscii(c, valor, m_formatado);
+    coloca(indice, QString::fromLatin1(m_formatado));
 }
 
 static int indiceDe(const LayoutRegistro& layout, const QString& nome)
@@ -314,25 +357,10 @@ QString LinhaRegistro::valor(const QString& nome) const
 
 QString LinhaRegistro::formata(const CampoLayout& campo, const QString& valor)
 {
-    switch (campo.tipo) {
-    case TipoCampo::N:
-        return ZeroEsquerda(valor, campo.tamanho);
-    case TipoCampo::X:
-        return BrancoDireita(valor, campo.tamanho);
-    case TipoCampo::R:
-        return BrancoEsquerda(valor, campo.tamanho);
-    case TipoCampo::D2:
-    case TipoCampo::D5:
-    case TipoCampo::D7:
-        return ZeroEsquerda(TiraCaractere(valor, QStringLiteral(",")), campo.tamanho);
-    case TipoCampo::DT:
-        return ZeroEsquerda(valor.mid(4, 4) + valor.mid(2, 2) + valor.mid(0, 2), 8);
-    case TipoCampo::K:
-        return valor.isNull() ? campo.constante : valor;
-    case TipoCampo::A:
-        return valor.isNull() ? QStringLiteral("") : valor;
-    }
-    return valor;
+    QString texto;
+    SaidaTexto s{texto};
+    formataCampo(campo, QStringView(valor), s);
+    return texto;
 }
 
 QString LinhaRegistro::texto() const

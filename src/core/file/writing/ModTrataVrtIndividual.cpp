@@ -153,7 +153,7 @@ EscritaIndividual::EscritaIndividual(const CabecalhoVrt& cabecalho, GravacaoVrt&
                    + valoresImportacao(QStringLiteral("x.IND_DL_288_67 = 'S' AND x.IND_OBSOLE_RESIDUO = 'N'"),
                                        QStringLiteral("m"), QStringLiteral("VL_INS_PROD_UNID_NFS"),
                                        QStringLiteral("NFS"))
-                   + QStringLiteral(", m.VL_TOT_PROD_INT AS TOTAL_INT, x.IND_SUSP_PIS_COFINS"),
+                   + QStringLiteral(", m.VL_TOT_PROD_INT AS _TOTAL_INT, x.IND_SUSP_PIS_COFINS"),
                comImportacao(QStringLiteral("ITEM_DI_PE_IND"), QStringLiteral("ITEM_IMPORT_288_PE")),
                QStringLiteral("ID_ITEM_DI")),
            m_nfs,

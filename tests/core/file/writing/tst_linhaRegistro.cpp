@@ -1,5 +1,6 @@
 #include "core/file/layout/LayoutRegistro.h"
 #include "core/file/writing/LinhaRegistro.h"
+#include "core/rules/Formatadores.h"
 
 #include <QtTest>
 
@@ -14,6 +15,8 @@ private slots:
     void valorLongoDemaisEmpurraOCampoSeguinteParaNovaLinha();
     void valorCurtoComoEstaELevadoAteAColunaSeguinte();
     void constanteDoRegistroPodeSerEscolhida();
+    void formatacaoSegueAsRotinasDoFormato_data();
+    void formatacaoSegueAsRotinasDoFormato();
     void bytesDoBancoFormatadosComoOTexto_data();
     void bytesDoBancoFormatadosComoOTexto();
     void textoForaDoAsciiFicaComOTexto();
@@ -109,7 +112,26 @@ void tst_linhaRegistro::constanteDoRegistroPodeSerEscolhida()
     QVERIFY(l.layout().semFimDeLinha);
 }
 
-void tst_linhaRegistro::bytesDoBancoFormatadosComoOTexto_data()
+namespace {
+// The formatting rule of each kind, written with the shared formatting routines.
+QString pelasRotinas(const CampoLayout& c, const QString& v)
+{
+    using namespace Funcoes;
+    switch (c.tipo) {
+    case TipoCampo::N: return ZeroEsquerda(v, c.tamanho);
+    case TipoCampo::X: return BrancoDireita(v, c.tamanho);
+    case TipoCampo::R: return BrancoEsquerda(v, c.tamanho);
+    case TipoCampo::D2:
+    case TipoCampo::D5:
+    case TipoCampo::D7: return ZeroEsquerda(TiraCaractere(v, QStringLiteral(",")), c.tamanho);
+    case TipoCampo::DT: return ZeroEsquerda(v.mid(4, 4) + v.mid(2, 2) + v.mid(0, 2), 8);
+    case TipoCampo::K: return v.isNull() ? c.constante : v;
+    case TipoCampo::A: return v;
+    }
+    return QString();
+}
+
+void valoresDeAmostra()
 {
     QTest::addColumn<QString>("valor");
     QTest::newRow("nulo") << QString();
@@ -117,16 +139,48 @@ void tst_linhaRegistro::bytesDoBancoFormatadosComoOTexto_data()
     QTest::newRow("um branco") << QStringLiteral(" ");
     QTest::newRow("tabulação e brancos") << QStringLiteral(" \t ");
     QTest::newRow("só a vírgula") << QStringLiteral(",");
+    QTest::newRow("vírgulas seguidas") << QStringLiteral(",,");
     QTest::newRow("brancos e vírgula") << QStringLiteral(" , ");
     QTest::newRow("decimal") << QStringLiteral("12,50");
+    QTest::newRow("vírgula no fim") << QStringLiteral("12,");
+    QTest::newRow("vírgula no começo") << QStringLiteral(",5");
     QTest::newRow("milhar e decimal") << QStringLiteral("1.234,56");
     QTest::newRow("duas vírgulas") << QStringLiteral("1,2,3");
     QTest::newRow("com brancos em volta") << QStringLiteral(" 42 ");
     QTest::newRow("data") << QStringLiteral("31122008");
     QTest::newRow("data curta") << QStringLiteral("3112");
     QTest::newRow("data de cinco") << QStringLiteral("31120");
+    QTest::newRow("data de brancos e dígitos") << QStringLiteral("  12    ");
     QTest::newRow("texto") << QStringLiteral("Produto de teste");
     QTest::newRow("longo") << QString(300, u'9');
+}
+}  // namespace
+
+void tst_linhaRegistro::formatacaoSegueAsRotinasDoFormato_data()
+{
+    valoresDeAmostra();
+    // Outside ASCII: accents, and spaces that only the text knows as spaces.
+    QTest::newRow("acentos") << QStringLiteral("Maçã");
+    QTest::newRow("branco rígido") << QStringLiteral("\u00a0");
+    QTest::newRow("decimal com espaço largo") << QStringLiteral("\u2003,\u2003");
+    QTest::newRow("número e espaço largo") << QStringLiteral("7\u2003");
+}
+
+void tst_linhaRegistro::formatacaoSegueAsRotinasDoFormato()
+{
+    QFETCH(QString, valor);
+    for (const TipoCampo tipo : {TipoCampo::N, TipoCampo::X, TipoCampo::R, TipoCampo::D2, TipoCampo::D5,
+                                 TipoCampo::D7, TipoCampo::DT, TipoCampo::K, TipoCampo::A}) {
+        for (const int tamanho : {0, 1, 3, 8, 14}) {
+            const CampoLayout c = campo(tipo, tamanho);
+            QCOMPARE(LinhaRegistro::formata(c, valor), pelasRotinas(c, valor));
+        }
+    }
+}
+
+void tst_linhaRegistro::bytesDoBancoFormatadosComoOTexto_data()
+{
+    valoresDeAmostra();
 }
 
 void tst_linhaRegistro::bytesDoBancoFormatadosComoOTexto()
@@ -136,7 +190,7 @@ void tst_linhaRegistro::bytesDoBancoFormatadosComoOTexto()
     const QByteArrayView bytes = valor.isNull() ? QByteArrayView() : QByteArrayView(utf8);
     for (const TipoCampo tipo : {TipoCampo::N, TipoCampo::X, TipoCampo::R, TipoCampo::D2, TipoCampo::D5,
                                  TipoCampo::D7, TipoCampo::DT, TipoCampo::K, TipoCampo::A}) {
-        for (const int tamanho : {1, 3, 8, 14}) {
+        for (const int tamanho : {0, 1, 3, 8, 14}) {
             const CampoLayout c = campo(tipo, tamanho);
             QByteArray saida;
             QVERIFY(LinhaRegistro::formataAscii(c, bytes, saida));
