@@ -22,16 +22,17 @@ struct PassoCopia {
     QString tabela;
     QString pai;      // the column that names the parent
     QString mapaPai;  // the key map of the parents (see CopiadorLinhas::raiz)
+    // The members below are optional: a step names only those it needs, in order.
     // A further condition, on `t` (the row copied) and `p` (its parent's row in the map: antigo, novo, grupo).
-    QString onde;
+    QString onde{};
     // An order of the rows of one parent that comes before the order they were made in.
-    QString ordem;
+    QString ordem{};
     // When set, the key map this table gives its children, named so.
-    QString mapa;
+    QString mapa{};
     // With `mapa`: a value kept beside each key (an expression on t and p) for the children's `onde`.
-    QString grupo;
+    QString grupo{};
     // Columns that take an expression in place of the copied value ("''" to leave them empty).
-    QHash<QString, QString> trocas;
+    QHash<QString, QString> trocas{};
 };
 
 class CopiadorLinhas {

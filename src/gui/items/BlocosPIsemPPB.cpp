@@ -98,8 +98,8 @@ CampoBloco marcaAliquota(const QString& nome, const QString& rotulo, const QStri
     c.ajusta = [taxa, justificativa](QWidget* w, ExecutorBloco& b) {
         auto* check = static_cast<QCheckBox*>(w);
         auto aplica = [&b, taxa, justificativa](bool ligada) {
-            for (const QString& nome : {taxa, justificativa}) {
-                auto* campo = qobject_cast<QLineEdit*>(b.campo(nome));
+            for (const QString& aberto : {taxa, justificativa}) {
+                auto* campo = qobject_cast<QLineEdit*>(b.campo(aberto));
                 if (!ligada)
                     campo->clear();
                 campo->setEnabled(ligada);

@@ -9,16 +9,22 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+QString EscolhaDocumento::NomeOpcao(TipoDocumento tipo, Origem origem)
+{
+    const char* nomes[3] = {"DI", "DSI", "NFA"};
+    return QStringLiteral("opt") + QLatin1String(nomes[static_cast<int>(tipo)])
+           + (origem == Origem::Insumo ? QStringLiteral("_tabPIsemPPB") : QStringLiteral("_tabProdutoEstrangeiro"));
+}
+
 EscolhaDocumento::EscolhaDocumento(const Configuracao& c, QWidget* pagina) : QObject(pagina)
 {
     tipos = new QGroupBox(c.tituloTipos, pagina);
     tipos->setObjectName(c.nomeTipos);
     auto* linha = new QHBoxLayout(tipos);
-    const char* nomes[3] = {"DI", "DSI", "NFA"};
     const char* legendas[3] = {"DI", "DSI", "NF"};
     for (int i = 0; i < 3; ++i) {
         opcoes[i] = new QRadioButton(QString::fromLatin1(legendas[i]), tipos);
-        opcoes[i]->setObjectName(QStringLiteral("opt") + QLatin1String(nomes[i]) + c.sufixoOpcoes);
+        opcoes[i]->setObjectName(NomeOpcao(static_cast<TipoDocumento>(i), c.origem));
         linha->addWidget(opcoes[i]);
         connect(opcoes[i], &QRadioButton::clicked, this, [this, i] { escolheTipo(i); });
     }

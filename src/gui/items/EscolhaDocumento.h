@@ -5,7 +5,7 @@
 // and which parent's lines decide that a place is left without documents.
 //
 //     m_docs = new EscolhaDocumento({Origem::Insumo, false, "Documento Entrada", "fraDocumentoEntrada_tabPIsemPPB",
-//                                    "_tabPIsemPPB", "cmd%1_tabPIsemPPB", "cmdLimpar_TabPIsemPPB"}, this);
+//                                    "cmd%1_tabPIsemPPB", "cmdLimpar_TabPIsemPPB"}, this);
 //     coluna->addWidget(m_docs->tipos);
 //     coluna->addWidget(m_docs->botoes);
 //     m_docs->poeQuadros(coluna);
@@ -31,12 +31,14 @@ public:
         bool individual;
         QString tituloTipos;   // the caption of the frame of the three choices
         QString nomeTipos;     // its objectName
-        QString sufixoOpcoes;  // optDI<sufixo>, optDSI<sufixo>, optNFA<sufixo>
         QString padraoBotoes;  // see QuatroBotoes
         QString nomeLimpar;    // Limpar's name where it leaves the pattern; "" none
     };
 
     EscolhaDocumento(const Configuracao& c, QWidget* pagina);
+
+    // The objectName of a kind's choice on the page of an origin: optDI_tabProdutoEstrangeiro, optNFA_tabPIsemPPB.
+    static QString NomeOpcao(TipoDocumento tipo, Origem origem);
 
     // The frames, one under the other, each stretching.
     void poeQuadros(QBoxLayout* coluna);

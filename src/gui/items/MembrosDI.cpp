@@ -5,17 +5,7 @@
 
 namespace {
 
-QString t(const char* s)
-{
-    return QString::fromUtf8(s);
-}
-
-const QString ZeroIgual = t("Este campo não pode ser igual a zero.");
-const QString MaiorQueZero = t("Campo deve ser maior que zero.");
-const QString Invalido = t("Campo inválido.");
-const QString SeisDigitos = t("Informe número de 6 dígitos.");
-
-using MembrosFamilia::PorPapel;
+using namespace MembrosFamilia;
 
 const QList<PorPapel> Nomes{
     {Papel::Numero, {"mskNumDI_PE", "mskNumDI_PE", "mskNumDI_PIsemPPBDI", "mskNumDI_PIsemPPBDI"}},
@@ -39,7 +29,7 @@ const QList<PorPapel> Colunas{
     {Papel::DecretoLei, {"IND_DL_288_67", "IND_DL_288_67", "IND_DL_288_67", "IND_DL_288_67"}},
     {Papel::Obsolescencia, {"IND_OBSOLE_RESIDUO", "IND_OBSOLE_RESIDUO", nullptr, nullptr}},
     {Papel::Suspensao, {"IND_SUSP_PIS_COFINS", "IND_SUSP_PIS_COFINS", "IND_SUSP_PIS_COFINS", "IND_SUSP_PIS_COFINS"}},
-    {Papel::Quantidade, {"QT_PROD_UNID_PROD", "QT_PROD_UNID_NFS", "QT_INSUMO_UNID_INS", "QT_INSUMO_UNID_NFS"}}};
+    {Papel::Quantidade, ColunaQuantidade}};
 const QList<PorPapel> ColunasValores{
     {Papel::Valor0, {"VL_PROD_UNID_PROD", "VL_INS_PROD_UNID_NFS", "VL_INSUMO_UNID_INS", "VL_INS_PROD_UNID_NFS"}},
     {Papel::Valor1, {"VL_FRETE_UNID_INT", "VL_FRETE_UNID_NFS", "VL_FRETE_UNID_INT", "VL_FRETE_UNID_NFS"}},
@@ -79,27 +69,22 @@ TabelaDocumento dados(const MembroDocumento& m, int k)
                     Papel::ValorTotal})
         if (m.colunas.contains(p))
             valores << m.colunas.value(p);
-    const MembrosFamilia::Quatro tabelas{"ITEM_DI_PE_MEN", "ITEM_DI_PE_IND", "ITEM_DI_INS_MEN", "ITEM_DI_INS_IND"};
-    const MembrosFamilia::Quatro filhas{"ITEM_IMPORT_288_PE_MEN", "ITEM_IMPORT_288_PE", "ITEM_IMPORT_288_INS_MEN",
+    const Quatro tabelas{"ITEM_DI_PE_MEN", "ITEM_DI_PE_IND", "ITEM_DI_INS_MEN", "ITEM_DI_INS_IND"};
+    const Quatro filhas{"ITEM_IMPORT_288_PE_MEN", "ITEM_IMPORT_288_PE", "ITEM_IMPORT_288_INS_MEN",
                                         "ITEM_IMPORT_288_INS"};
-    const QList<QStringList> pais{{t("ID_DEST_PRODUTO")},
-                                  {t("ID_ITEM")},
-                                  {t("ID_VRT_MICRO"), t("CD_INT_INSUMO"), t("CD_LOCAL_DESTINO")},
-                                  {t("ID_INSUMO")}};
-    return {MembrosFamilia::Um(tabelas, k), t("ID_ITEM_DI"), pais.at(k), linha, MembrosFamilia::Um(filhas, k),
+    return {Um(tabelas, k), t("ID_ITEM_DI"), ChavePai(k), linha, Um(filhas, k),
             t("ID_ITEM_IMP_288"), valores};
 }
 
 QList<Passo> passos(int k)
 {
-    using MembrosFamilia::Um;
-    const MembrosFamilia::Quatro adicao{"O campo adição não pode ser nulo.", "O campo número da adição deve ser preenchido.",
+    const Quatro adicao{"O campo adição não pode ser nulo.", "O campo número da adição deve ser preenchido.",
                                         "O campo adição não pode ser nulo.", "O campo número da adição deve ser preenchido."};
-    const MembrosFamilia::Quatro item{"O campo Item não pode ser nulo.",
+    const Quatro item{"O campo Item não pode ser nulo.",
                                       "O campo número do item da adição deve ser preenchido.",
                                       "O campo item não pode ser nulo.",
                                       "O campo número do item da adição deve ser preenchido."};
-    const MembrosFamilia::Quatro quantidade{"O campo quantidade comercial não pode ser nulo.",
+    const Quatro quantidade{"O campo quantidade comercial não pode ser nulo.",
                                             "O campo quantidade comercial não pode ser nulo.",
                                             "O campo quantidade comercial não pode ser nulo.",
                                             "Quantidade deve ser preenchida."};
@@ -113,12 +98,11 @@ QList<Passo> passos(int k)
 
 void mensagens(MembroDocumento& m, int k)
 {
-    using MembrosFamilia::Um;
     m.tipoDigito = t("DI");
     m.msgNumeroInvalido = t("Número da DI inválido.");
     m.msgNumeroVazio = t("O campo número da DI deve ser preenchido.");
     m.msgNumeroCurto = Um({"DI incorreta.", "DI incorreta.", "Di incorreta!", nullptr}, k);
-    m.msgAntigaVazia = t("Os campos ano, órgão e seqüencial devem ser preenchidos.");
+    m.msgAntigaVazia = AntigaVazia;
     m.msgZeroDecimal = m.individual ? MaiorQueZero : ZeroIgual;
     m.passos = passos(k);
     m.msgDuplicadoEletronica = m.individual ? t("DI já incluída.") : t("O conjunto DI/Adição/Item já encontra-se incluído.");
@@ -129,7 +113,7 @@ void mensagens(MembroDocumento& m, int k)
 
 QList<ColunaDocumento> grade(const MembroDocumento& m)
 {
-    QList<ColunaDocumento> g = MembrosFamilia::ColunasDoPai(m.origem, m.individual);
+    QList<ColunaDocumento> g = ColunasDoPai(m.origem, m.individual);
     if (m.individual)
         return g << ColunaDocumento{t("Núm. DI"), t("NR_DI"), t("@@/@@@@@@@-@"), 100}
                  << ColunaDocumento{t("Núm. DI Antiga"), t("NR_DI_ANTIGA"), QString(), 120}

@@ -5,18 +5,7 @@
 
 namespace {
 
-QString t(const char* s)
-{
-    return QString::fromUtf8(s);
-}
-
-const QString MaiorQueZero = t("Campo deve ser maior que zero.");
-const QString Invalido = t("Campo inválido.");
-const QString SeisDigitos = t("Informe número de 6 dígitos.");
-
-using MembrosFamilia::PorPapel;
-using MembrosFamilia::Quatro;
-using MembrosFamilia::Um;
+using namespace MembrosFamilia;
 
 const QList<PorPapel> Nomes{
     {Papel::Numero, {"txtNumDSI_PE", "mskProdutoEstrangeiroDSI(0)", "mskPIsemPPB(21)", "mskPIsemPPBDSI(0)"}},
@@ -29,7 +18,7 @@ const QList<PorPapel> Nomes{
 const QList<PorPapel> Colunas{
     {Papel::Numero, {"NR_DSI", "NR_DSI", "NR_DSI", "NR_DSI"}},
     {Papel::NumeroBem, {"NR_BEM", "NR_BEM", "NR_BEM", "NR_BEM"}},
-    {Papel::Quantidade, {"QT_PROD_UNID_PROD", "QT_PROD_UNID_NFS", "QT_INSUMO_UNID_INS", "QT_INSUMO_UNID_NFS"}},
+    {Papel::Quantidade, ColunaQuantidade},
     {Papel::Suspensao, {"IND_SUSP_PIS_COFINS", "IND_SUSP_PIS_COFINS", "IND_SUSP_PIS_COFINS", "IND_SUSP_PIS_COFINS"}},
     {Papel::Valor0, {"VL_PROD_UNID_PROD", "VL_PROD_UNID_PROD", "VL_PROD_UNID_PROD", "VL_INS_UNID_PROD"}},
     {Papel::Valor1, {"VL_FRETE_UNID_INT", "VL_FRETE_UNID_INT", "VL_FRETE_UNID_INT", "VL_FRETE_UNID_INT"}},
@@ -62,16 +51,12 @@ TabelaDocumento dados(const MembroDocumento& m, int k)
                     Papel::Moeda2, Papel::Valor2})
         linha << m.colunas.value(p);
     const Quatro tabelas{"ITEM_DSI_PE_MEN", "ITEM_DSI_PE_IND", "ITEM_DSI_INS_MEN", "ITEM_DSI_INS_IND"};
-    const QList<QStringList> pais{{t("ID_DEST_PRODUTO")},
-                                  {t("ID_ITEM")},
-                                  {t("ID_VRT_MICRO"), t("CD_INT_INSUMO"), t("CD_LOCAL_DESTINO")},
-                                  {t("ID_INSUMO")}};
-    return {Um(tabelas, k), t("ID_ITEM_DSI"), pais.at(k), linha, {}, {}, {}};
+    return {Um(tabelas, k), t("ID_ITEM_DSI"), ChavePai(k), linha, {}, {}, {}};
 }
 
 void mensagens(MembroDocumento& m, int k)
 {
-    m.msgZeroDecimal = m.individual ? MaiorQueZero : t("Este campo não pode ser igual a zero.");
+    m.msgZeroDecimal = m.individual ? MaiorQueZero : ZeroIgual;
     m.tipoDigito = t("DSI");
     m.msgNumeroInvalido = t("Número da DSI inválido.");
     if (m.individual) {
@@ -83,7 +68,7 @@ void mensagens(MembroDocumento& m, int k)
     m.msgNumeroZero = Um({"DSI não pode ser igual a zeros.", "DSI não pode ser igual a zeros.", nullptr, nullptr}, k);
     // The product's message has no full stop, the monthly input's has one; the individual input has no such test.
     m.msgNumeroCurto = Um({"DSI incorreta", "DSI incorreta", "DSI incorreta.", nullptr}, k);
-    m.msgAntigaVazia = t("Os campos ano, órgão e seqüencial devem ser preenchidos.");
+    m.msgAntigaVazia = AntigaVazia;
     m.passos = {{Teste::Vazio, Papel::NumeroBem,
                  Um({"Este campo não pode ser nulo.", "Este campo não pode ser nulo.",
                      "O campo número do bem não pode ser nulo.", "O campo número do bem deve ser preenchido."},
@@ -104,7 +89,7 @@ void mensagens(MembroDocumento& m, int k)
 
 QList<ColunaDocumento> grade(const MembroDocumento& m)
 {
-    QList<ColunaDocumento> g = MembrosFamilia::ColunasDoPai(m.origem, m.individual);
+    QList<ColunaDocumento> g = ColunasDoPai(m.origem, m.individual);
     if (m.individual)
         return g << ColunaDocumento{t("Núm. DSI"), t("NR_DSI"), t("@@/@@@@@@@-@"), 100}
                  << ColunaDocumento{t("Núm. DSI Antiga"), t("NR_DSI_ANTIGA"), QString(), 120}

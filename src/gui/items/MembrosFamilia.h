@@ -23,6 +23,33 @@ inline QString Um(const Quatro& q, int k)
     return q.at(k) ? QString::fromUtf8(q.at(k)) : QString();
 }
 
+inline QString t(const char* s)
+{
+    return QString::fromUtf8(s);
+}
+
+// The words the kinds share.
+inline const QString MaiorQueZero = t("Campo deve ser maior que zero.");
+inline const QString ZeroIgual = t("Este campo não pode ser igual a zero.");
+inline const QString Invalido = t("Campo inválido.");
+inline const QString SeisDigitos = t("Informe número de 6 dígitos.");
+inline const QString AntigaVazia = t("Os campos ano, órgão e seqüencial devem ser preenchidos.");
+
+// The key of the row a line belongs to: the product's destination, the invoice item, the input of a declaration at
+// its place, the input of an item.
+inline QStringList ChavePai(int k)
+{
+    static const QList<QStringList> pais{{t("ID_DEST_PRODUTO")},
+                                         {t("ID_ITEM")},
+                                         {t("ID_VRT_MICRO"), t("CD_INT_INSUMO"), t("CD_LOCAL_DESTINO")},
+                                         {t("ID_INSUMO")}};
+    return pais.at(k);
+}
+
+// The commercial quantity's column, alike in every kind.
+inline constexpr Quatro ColunaQuantidade{"QT_PROD_UNID_PROD", "QT_PROD_UNID_NFS", "QT_INSUMO_UNID_INS",
+                                         "QT_INSUMO_UNID_NFS"};
+
 // A part of the frame and its four values (a control's name, a column).
 struct PorPapel {
     Papel papel;

@@ -5,16 +5,7 @@
 
 namespace {
 
-QString t(const char* s)
-{
-    return QString::fromUtf8(s);
-}
-
-const QString MaiorQueZero = t("Campo deve ser maior que zero.");
-
-using MembrosFamilia::PorPapel;
-using MembrosFamilia::Quatro;
-using MembrosFamilia::Um;
+using namespace MembrosFamilia;
 
 const QList<PorPapel> Nomes{
     {Papel::DecretoLei, {"chkDecretoLei28867_tabProdutoEstrangeiro_NFA", "chkDecretoLei28867_tabProdutoEstrangeiro_NFA",
@@ -44,7 +35,7 @@ const QList<PorPapel> Colunas{
     {Papel::Obsolescencia, {"IND_OBSOLE_RESIDUO", "IND_OBSOLE_RESIDUO", nullptr, nullptr}},
     {Papel::ValorTotal, {"VL_TOT_PROD_OBSOLE", nullptr, nullptr, nullptr}},
     {Papel::ValorUnitario, {"VL_PROD_UNID_PROD", "VL_INS_PROD_UNID_NFS", "VL_INSUMO_UNID_INS", "VL_INS_PROD_UNID_NFS"}},
-    {Papel::Quantidade, {"QT_PROD_UNID_PROD", "QT_PROD_UNID_NFS", "QT_INSUMO_UNID_INS", "QT_INSUMO_UNID_NFS"}}};
+    {Papel::Quantidade, ColunaQuantidade}};
 
 TabelaDocumento dados(const MembroDocumento& m, int k)
 {
@@ -53,11 +44,7 @@ TabelaDocumento dados(const MembroDocumento& m, int k)
         if (m.colunas.contains(p.papel))
             linha << m.colunas.value(p.papel);
     const Quatro tabelas{"ITEM_NFA_PE_MEN", "ITEM_NFA_PE_IND", "ITEM_NFA_INS_MEN", "ITEM_NFA_INS_IND"};
-    const QList<QStringList> pais{{t("ID_DEST_PRODUTO")},
-                                  {t("ID_ITEM")},
-                                  {t("ID_VRT_MICRO"), t("CD_INT_INSUMO"), t("CD_LOCAL_DESTINO")},
-                                  {t("ID_INSUMO")}};
-    return {Um(tabelas, k), t("ID_ITEM_NFA"), pais.at(k), linha, {}, {}, {}};
+    return {Um(tabelas, k), t("ID_ITEM_NFA"), ChavePai(k), linha, {}, {}, {}};
 }
 
 // Series, CFOP and CNPJ are not required in a monthly line; the individual editor asks for everything.
@@ -99,7 +86,7 @@ QList<Passo> passos(int k)
 
 void mensagens(MembroDocumento& m, int k)
 {
-    m.msgZeroDecimal = m.individual ? MaiorQueZero : t("Este campo não pode ser igual a zero.");
+    m.msgZeroDecimal = m.individual ? MaiorQueZero : ZeroIgual;
     m.passos = passos(k);
     m.msgDuplicadoEletronica = m.individual ? t("NF de entrada já incluída.")
                                             : t("O conjunto Número/Série(Subsérie)/Item da NF de entrada já foi incluído.");
@@ -130,7 +117,7 @@ QMap<Papel, QString> rotulos(int k)
 
 QList<ColunaDocumento> grade(const MembroDocumento& m)
 {
-    QList<ColunaDocumento> g = MembrosFamilia::ColunasDoPai(m.origem, m.individual);
+    QList<ColunaDocumento> g = ColunasDoPai(m.origem, m.individual);
     const bool insumo = m.origem == Origem::Insumo;
     g << ColunaDocumento{insumo && !m.individual ? t("NFA") : t("NF"), t("NR_NF_AQUIS"), QString(), 70}
       << ColunaDocumento{t("Série"), t("NR_SERIE_NF_AQUIS"), QString(), 60}

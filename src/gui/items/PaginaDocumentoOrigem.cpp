@@ -45,7 +45,7 @@ PaginaDocumentoOrigem::PaginaDocumentoOrigem(bool individual, std::function<QStr
     auto* topo = new QGridLayout;
     constroiPickers(topo);
     m_docs = new EscolhaDocumento({Origem::Produto, individual, t("Documento de Entrada"),
-                                   t("fraDocumentoEntrada_tabProdutoEstrangeiro"), t("_tabProdutoEstrangeiro"),
+                                   t("fraDocumentoEntrada_tabProdutoEstrangeiro"),
                                    individual ? t("cmd%1_TabPE") : t("cmd%1_tabProdutoEstrangeiro"), QString()},
                                   this);
     for (int i = 0; i < 3; ++i)

@@ -26,8 +26,8 @@ PaginaDocumentosInsumo::PaginaDocumentosInsumo(bool individual, std::function<QS
     auto* coluna = new QVBoxLayout(this);
     coluna->addWidget(constroiQuadro());
     m_docs = new EscolhaDocumento({Origem::Insumo, individual, QStringLiteral("Documento Entrada"),
-                                   QStringLiteral("fraDocumentoEntrada_tabPIsemPPB"), QStringLiteral("_tabPIsemPPB"),
-                                   QStringLiteral("cmd%1_tabPIsemPPB"), QStringLiteral("cmdLimpar_TabPIsemPPB")},
+                                   QStringLiteral("fraDocumentoEntrada_tabPIsemPPB"), QStringLiteral("cmd%1_tabPIsemPPB"),
+                                   QStringLiteral("cmdLimpar_TabPIsemPPB")},
                                   this);
     for (int i = 0; i < 3; ++i)
         opcoes[i] = m_docs->opcoes[i];
@@ -169,12 +169,10 @@ void PaginaDocumentosInsumo::escolheLocal()
     definePai();
     // The grid that reloads is the one of the kind chosen on the foreign product's page, as it always was; with no
     // choice kept there, no grid reloads.
-    const char* nomesPE[3] = {"optDI_tabProdutoEstrangeiro", "optDSI_tabProdutoEstrangeiro",
-                              "optNFA_tabProdutoEstrangeiro"};
-    for (int tipo = 0; tipo < 3; ++tipo) {
-        auto* o = window()->findChild<QRadioButton*>(QString::fromLatin1(nomesPE[tipo]));
+    for (TipoDocumento tipo : {TipoDocumento::DI, TipoDocumento::DSI, TipoDocumento::NFA}) {
+        auto* o = window()->findChild<QRadioButton*>(EscolhaDocumento::NomeOpcao(tipo, Origem::Produto));
         if (o && o->isChecked())
-            m_docs->quadro(static_cast<TipoDocumento>(tipo))->carrega();
+            m_docs->quadro(tipo)->carrega();
     }
 }
 

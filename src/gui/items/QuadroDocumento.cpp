@@ -303,8 +303,8 @@ void QuadroDocumento::ligaNota()
             MsgBox(msg, Msg::OKOnly | Msg::Critical);
             return false;
         });
-    if (QWidget* data = campo(Papel::Data))
-        aoSair(data, [this] { return confereData(); });
+    if (QWidget* emissao = campo(Papel::Data))
+        aoSair(emissao, [this] { return confereData(); });
     if (QWidget* cnpj = campo(Papel::CNPJ))
         aoSair(cnpj, [this] {
             const QString d = texto(Papel::CNPJ);
@@ -537,10 +537,10 @@ QString QuadroDocumento::texto(Papel p) const
 void QuadroDocumento::poe(Papel p, const QString& v)
 {
     QWidget* w = campo(p);
-    if (auto* d = qobject_cast<DecimalField*>(w))
-        d->setValue(v);
-    else if (auto* d = qobject_cast<DigitField*>(w))
-        d->setValue(v);
+    if (auto* decimal = qobject_cast<DecimalField*>(w))
+        decimal->setValue(v);
+    else if (auto* digitos = qobject_cast<DigitField*>(w))
+        digitos->setValue(v);
     else if (auto* mf = qobject_cast<MaskedField*>(w))
         mf->setDigits(v);
     else if (auto* c = qobject_cast<QCheckBox*>(w))

@@ -2,6 +2,7 @@
 // rates, the consolidated inputs of the page "Documentos de Origem" and the statistical total of an input.
 #include "DocumentoTeste.h"
 #include "ItensTeste.h"
+#include "PISemPPBTeste.h"
 
 #include "gui/widgets/ConsultGrid.h"
 
@@ -11,79 +12,25 @@
 #include <QTabWidget>
 
 using namespace ItensTeste;
+using namespace PISemPPBTeste;
 
 namespace {
 
 const QString GradeProduto = QStringLiteral("grdConsultaProduto_fraPIsemPPB");
 const QString GradeInsumo = QStringLiteral("grdConsultaInsumo_fraCCI");
 
-void cadastraInsumos()
-{
-    for (const char* c : {"INS1", "INS2"})
-        BancoTeste::executa(QStringLiteral("INSERT INTO PRODUTO (CD_INT_PRODUTO, NM_INT_PRODUTO) VALUES (?, ?)"),
-                            {QString::fromLatin1(c), QStringLiteral("Insumo ") + QString::fromLatin1(c)});
-}
-
-QTabWidget* paginas(Ambiente& a)
-{
-    return a.campo<QTabWidget>(QStringLiteral("tabPIsemPPB"));
-}
-
-void produtoMensal(Ambiente& a, const QString& produto, const QString& local, const QString& qt,
-                   const QString& unidade = QStringLiteral("UN"), const QString& ncm = Ncm1)
-{
-    a.digita(QStringLiteral("mskNumNCM_TabPIsemPPB"), ncm);
-    a.digita(QStringLiteral("txtCodProdPIsemPPB"), produto);
-    a.escolhe(QStringLiteral("cboUnidadePIsemPPB"), unidade);
-    a.escolhe(QStringLiteral("cboLocalPIsemPPB"), local);
-    a.digita(QStringLiteral("mskPIsemPPB(3)"), qt);
-    a.sai(QStringLiteral("cmdIncluir_tabPIsemPPB_CCI"));
-    a.clica(QStringLiteral("cmdIncluir_tabPIsemPPB_CCI"));
-}
-
-void escolheProdutoDoInsumo(Ambiente& a, const QString& produto)
-{
-    a.escolhe(QStringLiteral("cboDocProdutoPIsemPPB"), produto);
-}
-
-// Types an input; `ii` a differing II rate ("" none). Incluir is left to the caller.
-void insumoMensal(Ambiente& a, const QString& codigo, const QString& qt, const QString& ii = QString(),
-                  const QString& unidade = QStringLiteral("UN"), const QString& ncm = Ncm2)
-{
-    a.digita(QStringLiteral("mskNumNCMInsumo"), ncm);
-    a.digita(QStringLiteral("txtCodInsPIsemPPB"), codigo);
-    a.escolhe(QStringLiteral("cboUnidadeInsumo"), unidade);
-    a.digita(QStringLiteral("mskPIsemPPB(4)"), qt);
-    a.sai(QStringLiteral("cmdIncluirInsumo"));
-    auto* chk = a.campo<QCheckBox>(QStringLiteral("chk_Aliquota_tabPIsemPPB"));
-    chk->setChecked(!ii.isEmpty());
-    if (!ii.isEmpty()) {
-        a.digita(QStringLiteral("mskPIsemPPB(5)"), ii);
-        a.digita(QStringLiteral("txtJustifLegalAliqIIPIsemPPB"), QStringLiteral("Lei 123"));
-        a.sai(QStringLiteral("cmdIncluirInsumo"));
-    }
-}
-
-void incluirInsumo(Ambiente& a)
-{
-    a.clica(QStringLiteral("cmdIncluirInsumo"));
-}
-
 // Two products sharing INS1, the first at two places, the second at one; INS2 only in the first.
 void duasDestinacoes(Ambiente& a)
 {
-    produtoMensal(a, QStringLiteral("P001"), Local1, QStringLiteral("10"));
-    produtoMensal(a, QStringLiteral("P001"), Local2, QStringLiteral("4"));
-    produtoMensal(a, QStringLiteral("P002"), Local1, QStringLiteral("3"));
+    incluiProduto(a, ProdutoMensal{QStringLiteral("P001"), Local1, QStringLiteral("10")});
+    incluiProduto(a, ProdutoMensal{QStringLiteral("P001"), Local2, QStringLiteral("4")});
+    incluiProduto(a, ProdutoMensal{QStringLiteral("P002"), Local1, QStringLiteral("3")});
     paginas(a)->setCurrentIndex(1);
-    escolheProdutoDoInsumo(a, QStringLiteral("P001"));
-    insumoMensal(a, QStringLiteral("INS1"), QStringLiteral("0,5"), QStringLiteral("2"));
-    incluirInsumo(a);
-    insumoMensal(a, QStringLiteral("INS2"), QStringLiteral("1"));
-    incluirInsumo(a);
-    escolheProdutoDoInsumo(a, QStringLiteral("P002"));
-    insumoMensal(a, QStringLiteral("INS1"), QStringLiteral("2"), QStringLiteral("2"));
-    incluirInsumo(a);
+    escolheProdutoDoInsumo(a, false, QStringLiteral("P001"));
+    incluiInsumo(a, InsumoMensal{QStringLiteral("INS1"), QStringLiteral("0,5"), QStringLiteral("2")});
+    incluiInsumo(a, InsumoMensal{QStringLiteral("INS2"), QStringLiteral("1")});
+    escolheProdutoDoInsumo(a, false, QStringLiteral("P002"));
+    incluiInsumo(a, InsumoMensal{QStringLiteral("INS1"), QStringLiteral("2"), QStringLiteral("2")});
 }
 
 // A DI of the chosen input at the chosen place: electronic, under the Decreto-Lei, with the input's value.
@@ -128,16 +75,16 @@ private slots:
                                                                   QStringLiteral("2,00000"), QStringLiteral("3925.90.90")}));
 
         // The same input again under a product, and an input that does not look the same as elsewhere.
-        insumoMensal(a, QStringLiteral("INS1"), QStringLiteral("1"), QStringLiteral("2"));
+        digitaInsumo(a, InsumoMensal{QStringLiteral("INS1"), QStringLiteral("1"), QStringLiteral("2")});
         a.msgs.responde(Msg::OK);
         incluirInsumo(a);
-        insumoMensal(a, QStringLiteral("INS2"), QStringLiteral("1"), QString(), QStringLiteral("UN"), Ncm1);
+        digitaInsumo(a, InsumoMensal{QStringLiteral("INS2"), QStringLiteral("1"), {}, {}, QStringLiteral("UN"), Ncm1});
         a.msgs.responde(Msg::OK);
         incluirInsumo(a);
-        insumoMensal(a, QStringLiteral("INS2"), QStringLiteral("1"), QString(), QStringLiteral("AMPOLA"));
+        digitaInsumo(a, InsumoMensal{QStringLiteral("INS2"), QStringLiteral("1"), {}, {}, QStringLiteral("AMPOLA")});
         a.msgs.responde(Msg::OK);
         incluirInsumo(a);
-        insumoMensal(a, QStringLiteral("INS2"), QStringLiteral("1"), QStringLiteral("3"));
+        digitaInsumo(a, InsumoMensal{QStringLiteral("INS2"), QStringLiteral("1"), QStringLiteral("3")});
         a.msgs.responde(Msg::OK);
         incluirInsumo(a);
         QCOMPARE(a.msgs.textos(),
@@ -171,11 +118,11 @@ private slots:
         Ambiente a;
         naAba(a, false, 3);
         cadastraInsumos();
-        produtoMensal(a, QStringLiteral("P001"), Local1, QStringLiteral("1"));
+        incluiProduto(a, ProdutoMensal{QStringLiteral("P001"), Local1, QStringLiteral("1")});
         paginas(a)->setCurrentIndex(1);
         a.msgs.responde(Msg::OK);
         incluirInsumo(a);
-        escolheProdutoDoInsumo(a, QStringLiteral("P001"));
+        escolheProdutoDoInsumo(a, false, QStringLiteral("P001"));
         a.digita(QStringLiteral("mskNumNCMInsumo"), Ncm2);
         a.digita(QStringLiteral("txtCodInsPIsemPPB"), QStringLiteral("INS1"));
         a.escolhe(QStringLiteral("cboUnidadeInsumo"), QStringLiteral("UN"));
@@ -271,14 +218,14 @@ private slots:
         // The total stays while the input leaves every product, and comes back with it.
         paginas(a)->setCurrentIndex(1);
         for (const QString& p : {QStringLiteral("P001"), QStringLiteral("P002")}) {
-            escolheProdutoDoInsumo(a, p);
+            escolheProdutoDoInsumo(a, false, p);
             escolheLinha(a, GradeInsumo, 0);
             a.msgs.responde(Msg::Yes);
             a.clica(QStringLiteral("cmdExcluirInsumo"));
         }
         QCOMPARE(conta(QStringLiteral("INSUMO_ITEM_VRT_MEN"), QStringLiteral("CD_INT_INSUMO = 'INS1'")), 0);
-        escolheProdutoDoInsumo(a, QStringLiteral("P002"));
-        insumoMensal(a, QStringLiteral("INS1"), QStringLiteral("1"));
+        escolheProdutoDoInsumo(a, false, QStringLiteral("P002"));
+        digitaInsumo(a, InsumoMensal{QStringLiteral("INS1"), QStringLiteral("1")});
         incluirInsumo(a);
         paginas(a)->setCurrentIndex(2);
         a.escolhe(QStringLiteral("cboCCIInsumoPIsemPPB"), QStringLiteral("INS1"));
@@ -307,7 +254,7 @@ private slots:
         // Excluding the input from one of its two products leaves its documents; from the second removes them all.
         paginas(a)->setCurrentIndex(1);
         for (const QString& p : {QStringLiteral("P001"), QStringLiteral("P002")}) {
-            escolheProdutoDoInsumo(a, p);
+            escolheProdutoDoInsumo(a, false, p);
             escolheLinha(a, GradeInsumo, 0);
             a.msgs.responde(Msg::Yes);
             a.clica(QStringLiteral("cmdExcluirInsumo"));
@@ -338,7 +285,7 @@ private slots:
         QCOMPARE(a.msgs.textos(), QStringList{QStringLiteral("Selecione um produto")});
         QCOMPARE(conta(QStringLiteral("INSUMO_ITEM_VRT_MEN")), 3);
         // With the product and the code, the question comes and the input goes.
-        escolheProdutoDoInsumo(a, QStringLiteral("P002"));
+        escolheProdutoDoInsumo(a, false, QStringLiteral("P002"));
         escolheLinha(a, GradeInsumo, 0);
         a.msgs.limpa();
         a.msgs.responde(Msg::Yes);
@@ -356,25 +303,14 @@ private slots:
         a.msgs.responde(Msg::OK);
         paginas(a)->setCurrentIndex(1);
         QCOMPARE(paginas(a)->currentIndex(), 0);
-        a.digita(QStringLiteral("txtPIsemPPBNFS(0)"), QStringLiteral("1"));
-        a.digita(QStringLiteral("mskPIsemPPBNFS(0)"), Ncm1);
-        a.digita(QStringLiteral("txtCodProdPIsemPPB"), QStringLiteral("P001"));
-        a.escolhe(QStringLiteral("cboUnidadePIsemPPB"), QStringLiteral("UN"));
-        a.digita(QStringLiteral("mskPIsemPPBNFS(1)"), QStringLiteral("5"));
-        a.digita(QStringLiteral("mskPIsemPPBNFS(2)"), QStringLiteral("12,5"));
-        a.sai(QStringLiteral("cmdIncluir_tabPIsemPPB_NFS"));
-        a.clica(QStringLiteral("cmdIncluir_tabPIsemPPB_NFS"));
+        incluiProduto(a, ProdutoIndividual{});
         QCOMPARE(conta(QStringLiteral("ITEM_NFS_PI_SEM_PPB"), QStringLiteral("QT_INT_UNID_NFS = '5,00000'")), 1);
 
         paginas(a)->setCurrentIndex(1);
-        a.escolhe(QStringLiteral("cboItem_PIsemPPB_Insumo"), QStringLiteral("1"));
+        escolheProdutoDoInsumo(a, true, QStringLiteral("1"));
         QCOMPARE(a.campo<QLineEdit>(QStringLiteral("txtPIsemPPBNFS(1)"))->text(), QStringLiteral("P001"));
-        a.digita(QStringLiteral("mskPIsemPPBNFS(5)"), Ncm2);
-        a.digita(QStringLiteral("txtCodInsPIsemPPB"), QStringLiteral("INS1"));
-        a.escolhe(QStringLiteral("cboUnidadeInsumo"), QStringLiteral("UN"));
-        a.digita(QStringLiteral("mskPIsemPPBNFS(6)"), QStringLiteral("2"));
+        digitaInsumo(a, InsumoIndividual{});
         a.campo<QCheckBox>(QStringLiteral("chk_AliquotaTEC_tabPIsemPPB"))->setChecked(true);
-        a.sai(QStringLiteral("cmdIncluirInsumo"));
         a.msgs.responde(Msg::OK);
         incluirInsumo(a);
         a.campo<QCheckBox>(QStringLiteral("chk_AliquotaTEC_tabPIsemPPB"))->setChecked(false);
@@ -384,9 +320,7 @@ private slots:
         QCOMPARE(conta(QStringLiteral("INSUMO_ITEM_NFS"), QStringLiteral("CD_INT_INSUMO = 'INS1' AND QT_INSUMO_POR_PROD = '2,00000'")), 1);
         a.msgs.limpa();
 
-        paginas(a)->setCurrentIndex(2);
-        a.escolhe(QStringLiteral("cmdItem_TabPIsemPPB_Documento"), QStringLiteral("1"));
-        a.escolhe(QStringLiteral("cmbCodigoControleInternoInsumo"), QStringLiteral("INS1"));
+        escolheInsumoDosDocumentos(a, true);
         a.digita(QStringLiteral("mskPIsemPPB"), QStringLiteral("3"));
         a.sai(QStringLiteral("cmbCodigoControleInternoInsumo"));
         QCOMPARE(conta(QStringLiteral("INSUMO_VRT_IND"), QStringLiteral("CD_INT_INSUMO = 'INS1' AND QT_TOT_INS = '3,00000'")), 1);

@@ -3,29 +3,15 @@
 // environment they also replace those in help/img.
 #include "CapturaTeste.h"
 #include "ItensTeste.h"
+#include "PISemPPBTeste.h"
 
 #include <QCheckBox>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QTabWidget>
 
 using namespace ItensTeste;
+using namespace PISemPPBTeste;
 using CapturaTeste::salva;
-
-namespace {
-
-void produto(Ambiente& a, const QString& codigo, const QString& local, const QString& qt)
-{
-    a.digita(QStringLiteral("mskNumNCM_TabPIsemPPB"), Ncm1);
-    a.digita(QStringLiteral("txtCodProdPIsemPPB"), codigo);
-    a.escolhe(QStringLiteral("cboUnidadePIsemPPB"), QStringLiteral("UN"));
-    a.escolhe(QStringLiteral("cboLocalPIsemPPB"), local);
-    a.digita(QStringLiteral("mskPIsemPPB(3)"), qt);
-    a.sai(QStringLiteral("cmdIncluir_tabPIsemPPB_CCI"));
-    a.clica(QStringLiteral("cmdIncluir_tabPIsemPPB_CCI"));
-}
-
-}  // namespace
 
 class tst_capturasPIsemPPB : public QObject {
     Q_OBJECT
@@ -35,25 +21,17 @@ private slots:
         Ambiente a;
         a.janela.resize(1024, 768);
         naAba(a, false, 3);
-        BancoTeste::executa(QStringLiteral("INSERT INTO PRODUTO (CD_INT_PRODUTO, NM_INT_PRODUTO) VALUES ('INS1', 'Chapa de aço')"));
-        produto(a, QStringLiteral("P001"), QStringLiteral("Estados AC, AM, RO e RR"), QStringLiteral("10"));
-        produto(a, QStringLiteral("P001"), QStringLiteral("Demais Unidades da Federação"), QStringLiteral("4"));
-        produto(a, QStringLiteral("P002"), QStringLiteral("Estados AC, AM, RO e RR"), QStringLiteral("3"));
+        cadastraInsumo(QStringLiteral("INS1"), QStringLiteral("Chapa de aço"));
+        incluiProduto(a, ProdutoMensal{QStringLiteral("P001"), Local1, QStringLiteral("10")});
+        incluiProduto(a, ProdutoMensal{QStringLiteral("P001"), Local2, QStringLiteral("4")});
+        incluiProduto(a, ProdutoMensal{QStringLiteral("P002"), Local1, QStringLiteral("3")});
         salva(a, QStringLiteral("abaPIsemPPB_produto.png"));
-        auto* paginas = a.campo<QTabWidget>(QStringLiteral("tabPIsemPPB"));
-        paginas->setCurrentIndex(1);
-        a.escolhe(QStringLiteral("cboDocProdutoPIsemPPB"), QStringLiteral("P001"));
-        a.digita(QStringLiteral("mskNumNCMInsumo"), Ncm2);
-        a.digita(QStringLiteral("txtCodInsPIsemPPB"), QStringLiteral("INS1"));
-        a.escolhe(QStringLiteral("cboUnidadeInsumo"), QStringLiteral("UN"));
-        a.digita(QStringLiteral("mskPIsemPPB(4)"), QStringLiteral("0,5"));
-        a.sai(QStringLiteral("cmdIncluirInsumo"));
-        a.clica(QStringLiteral("cmdIncluirInsumo"));
+        paginas(a)->setCurrentIndex(1);
+        escolheProdutoDoInsumo(a, false, QStringLiteral("P001"));
+        incluiInsumo(a, InsumoMensal{});
         a.campo<QCheckBox>(QStringLiteral("chk_Aliquota_tabPIsemPPB"))->setChecked(true);
         salva(a, QStringLiteral("abaPIsemPPB_insumos.png"));
-        paginas->setCurrentIndex(2);
-        a.escolhe(QStringLiteral("cboCCIInsumoPIsemPPB"), QStringLiteral("INS1"));
-        a.escolhe(QStringLiteral("cboLocalDestinoInsumo"), QStringLiteral("Estados AC, AM, RO e RR"));
+        escolheInsumoDosDocumentos(a, false);
         a.clica(QStringLiteral("optDI_tabPIsemPPB"));
         salva(a, QStringLiteral("abaPIsemPPB_documentos.png"));
         // At 1024×768 the page of documents scrolls up and down only, whatever kind is shown.

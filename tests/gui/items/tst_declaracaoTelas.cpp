@@ -1,10 +1,10 @@
 // A monthly declaration with an item of each of the four modalities, typed into the editor's tabs as a user types
 // them, is written for transmission byte for byte as the golden file composed by hand from the record tables.
 #include "ItensTeste.h"
+#include "PISemPPBTeste.h"
 #include "ProdutoTeste.h"
 #include "VoltaArquivoTeste.h"
 
-#include <QTabWidget>
 #include <QTemporaryDir>
 
 using namespace ItensTeste;
@@ -24,22 +24,11 @@ void produtoEstrangeiro(Ambiente& a)
 
 void semPPB(Ambiente& a)
 {
-    BancoTeste::executa(t("INSERT INTO PRODUTO (CD_INT_PRODUTO, NM_INT_PRODUTO) VALUES ('INS1', 'Insumo INS1')"));
-    a.digita(t("mskNumNCM_TabPIsemPPB"), Ncm1);
-    a.digita(t("txtCodProdPIsemPPB"), t("Q9"));
-    a.escolhe(t("cboUnidadePIsemPPB"), t("UN"));
-    a.escolhe(t("cboLocalPIsemPPB"), Local1);
-    a.digita(t("mskPIsemPPB(3)"), t("2"));
-    a.sai(t("cmdIncluir_tabPIsemPPB_CCI"));
-    a.clica(t("cmdIncluir_tabPIsemPPB_CCI"));
-    a.campo<QTabWidget>(t("tabPIsemPPB"))->setCurrentIndex(1);
-    a.escolhe(t("cboDocProdutoPIsemPPB"), t("Q9"));
-    a.digita(t("mskNumNCMInsumo"), Ncm2);
-    a.digita(t("txtCodInsPIsemPPB"), t("INS1"));
-    a.escolhe(t("cboUnidadeInsumo"), t("UN"));
-    a.digita(t("mskPIsemPPB(4)"), t("0,5"));
-    a.sai(t("cmdIncluirInsumo"));
-    a.clica(t("cmdIncluirInsumo"));
+    PISemPPBTeste::cadastraInsumo(t("INS1"));
+    PISemPPBTeste::incluiProduto(a, PISemPPBTeste::ProdutoMensal{t("Q9"), Local1, t("2")});
+    PISemPPBTeste::paginas(a)->setCurrentIndex(1);
+    PISemPPBTeste::escolheProdutoDoInsumo(a, false, t("Q9"));
+    PISemPPBTeste::incluiInsumo(a, PISemPPBTeste::InsumoMensal{});
 }
 
 }  // namespace

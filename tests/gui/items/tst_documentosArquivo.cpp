@@ -189,88 +189,98 @@ QList<QList<QStringList>> gradesDosDocumentos(Cenario& c)
     return grades;
 }
 
+// A new declaration of the kind with two products: monthly PROD1 at both places (12 and 8), individual items 1
+// (PROD1) and 2 (PROD2, 3 units); left on the foreign-product tab.
+void incluiProdutos(Ambiente& a, bool individual)
+{
+    cadastraProdutos();
+    if (individual) {
+        a.novaIndividual();
+        a.preencheIndividual();
+        a.vaiParaAba(1);
+        ProdutoIndividual p;
+        incluiIndividual(a, p);
+        p.item = t("2");
+        p.codigo = t("PROD2");
+        p.quantidade = t("3");
+        incluiIndividual(a, p);
+    } else {
+        a.novaMensal();
+        a.preencheMensal(t("5"), t("2009"));
+        a.vaiParaAba(1);
+        ProdutoMensal p;
+        incluiMensal(a, p);
+        p.local = Local2;
+        p.quantidade = t("8");
+        incluiMensal(a, p);
+    }
+}
+
+// Records 11 of the two products.
+void confereProdutos(const QByteArray& arquivo, bool individual)
+{
+    const QStringList r11 = registros(arquivo, t("11"));
+    QCOMPARE(r11.size(), 2);
+    if (individual) {
+        QCOMPARE(de(r11.at(0), 3, 26), t("001") + t("84713012") + x(t("PROD1"), 15));
+        QCOMPARE(de(r11.at(1), 3, 26), t("002") + t("84713012") + x(t("PROD2"), 15));
+        QCOMPARE(de(r11.at(1), 611, 14), d5("3"));
+        return;
+    }
+    for (int i = 0; i < 2; ++i)
+        QCOMPARE(r11.at(i), t("11000") + t("84713012") + x(t("PROD1"), 15) + (i == 0 ? t("1") : t("2"))
+                                + x(t("Produto um"), 45) + x(QString(), 253) + t("00000") + x(QString(), 253)
+                                + t("00000") + x(QString(), 20) + zeros(14) + d5("20") + zeros(20) + zeros(15)
+                                + (i == 0 ? d5("12") : d5("8")) + x(t("UN"), 20));
+}
+
+// The document grids as the lines of Documentos were typed. Each row starts with its destination's product and
+// place (monthly) or its item and product (individual); the monthly grids end with the quantity, the individual
+// invoice grid with the supplier.
+QList<QList<QStringList>> gradesDigitadas(bool individual)
+{
+    const QList<QStringList> donos = individual
+        ? QList<QStringList>{{t("001"), t("PROD1")}, {t("002"), t("PROD2")}}
+        : QList<QStringList>{{t("PROD1"), Local1}, {t("PROD1"), Local2}};
+    const auto fim = [individual](const QString& quantidade, const QString& fornecedor) {
+        return individual ? (fornecedor.isEmpty() ? QStringList() : QStringList{fornecedor}) : QStringList{quantidade};
+    };
+    const QString q4 = t("4,00000");
+    const QString q8 = t("8,00000");
+    const QString di = t("09/1234567-") + numeroDI().right(1);
+    const QString dsi = t("09/1234567-") + numeroDSI().right(1);
+    return {{donos[0] + QStringList{t("001234"), t("A1"), t("001")} + fim(q4, t("11.222.333/0001-81")),
+             donos[0] + QStringList{t("005678"), t("B"), t("002")} + fim(t("6,00000"), t("11.222.333/0001-81"))},
+            {donos[0] + QStringList{di, QString(), t("001"), t("01")} + fim(q4, QString())},
+            {donos[0] + QStringList{dsi, QString(), t("001")} + fim(q4, QString())},
+            {donos[1] + QStringList{t("000042"), t("C"), t("003")} + fim(q8, t("44.555.666/0001-81"))},
+            {donos[1] + QStringList{QString(), t("951234567654321"), t("002"), t("03")} + fim(q8, QString())},
+            {donos[1] + QStringList{QString(), t("977654321123456"), t("002")} + fim(q8, QString())}};
+}
+
 }  // namespace
 
 class tst_documentosArquivo : public QObject {
     Q_OBJECT
 private slots:
-    void mensalComOsTresDocumentosVoltaDoArquivo()
+    void comOsTresDocumentosVoltaDoArquivo_data()
     {
-        QTemporaryDir pasta;
-        const Documentos docs(false);
-        QByteArray arquivo;
-        QList<QList<QStringList>> digitadas;
-        {
-            Ambiente a;
-            cadastraProdutos();
-            a.novaMensal();
-            a.preencheMensal(t("5"), t("2009"));
-            a.vaiParaAba(1);
-            ProdutoMensal p;
-            incluiMensal(a, p);
-            p.local = Local2;
-            p.quantidade = t("8");
-            incluiMensal(a, p);
-            Cenario c(a, false);
-            docs.inclui(c);
-            QCOMPARE(a.msgs.textos(), QStringList());
-            digitadas = gradesDosDocumentos(c);
-            arquivo = gravaParaTransmissao(a, pasta.path());
-            QCOMPARE(a.msgs.inesperadas, 0);
-        }
-        QVERIFY(!arquivo.isEmpty());
-        QCOMPARE(tiposDosProdutos(arquivo), (QStringList{t("11"), t("12"), t("12"), t("13"), t("14"), t("11"), t("12"),
-                                                          t("13"), t("14")}));
-        const QStringList r11 = registros(arquivo, t("11"));
-        for (int i = 0; i < 2; ++i)
-            QCOMPARE(r11.at(i), t("11000") + t("84713012") + x(t("PROD1"), 15) + (i == 0 ? t("1") : t("2"))
-                                    + x(t("Produto um"), 45) + x(QString(), 253) + t("00000") + x(QString(), 253)
-                                    + t("00000") + x(QString(), 20) + zeros(14) + d5("20") + zeros(20) + zeros(15)
-                                    + (i == 0 ? d5("12") : d5("8")) + x(t("UN"), 20));
-        // The monthly invoice keeps the obsolete product's total; its indicator at position 44 is the letter.
-        confereDocumentos(arquivo, valoresDIComDecreto(), d2("321", "5"));
-
-        Ambiente b;
-        reabre(b, arquivo, pasta.path());
-        if (QTest::currentTestFailed())
-            return;
-        b.vaiParaAba(1);
-        Cenario d(b, false);
-        const QString local2 = Local2;
-        const QList<QList<QStringList>> esperadas{
-                            {{t("PROD1"), Local1, t("001234"), t("A1"), t("001"), t("4,00000")},
-                             {t("PROD1"), Local1, t("005678"), t("B"), t("002"), t("6,00000")}},
-                            {{t("PROD1"), Local1, t("09/1234567-") + numeroDI().right(1), QString(), t("001"), t("01"),
-                              t("4,00000")}},
-                            {{t("PROD1"), Local1, t("09/1234567-") + numeroDSI().right(1), QString(), t("001"),
-                              t("4,00000")}},
-                            {{t("PROD1"), local2, t("000042"), t("C"), t("003"), t("8,00000")}},
-                            {{t("PROD1"), local2, QString(), t("951234567654321"), t("002"), t("03"), t("8,00000")}},
-                            {{t("PROD1"), local2, QString(), t("977654321123456"), t("002"), t("8,00000")}}};
-        QCOMPARE(digitadas, esperadas);
-        QCOMPARE(gradesDosDocumentos(d), esperadas);
-        QCOMPARE(b.msgs.inesperadas, 0);
+        QTest::addColumn<bool>("individual");
+        QTest::newRow("mensal") << false;
+        QTest::newRow("individual") << true;
     }
 
-    void individualComOsTresDocumentosVoltaDoArquivo()
+    void comOsTresDocumentosVoltaDoArquivo()
     {
+        QFETCH(bool, individual);
         QTemporaryDir pasta;
-        const Documentos docs(true);
+        const Documentos docs(individual);
         QByteArray arquivo;
         QList<QList<QStringList>> digitadas;
         {
             Ambiente a;
-            cadastraProdutos();
-            a.novaIndividual();
-            a.preencheIndividual();
-            a.vaiParaAba(1);
-            ProdutoIndividual p;
-            incluiIndividual(a, p);
-            p.item = t("2");
-            p.codigo = t("PROD2");
-            p.quantidade = t("3");
-            incluiIndividual(a, p);
-            Cenario c(a, true);
+            incluiProdutos(a, individual);
+            Cenario c(a, individual);
             docs.inclui(c);
             QCOMPARE(a.msgs.textos(), QStringList());
             digitadas = gradesDosDocumentos(c);
@@ -280,34 +290,27 @@ private slots:
         QVERIFY(!arquivo.isEmpty());
         QCOMPARE(tiposDosProdutos(arquivo), (QStringList{t("11"), t("12"), t("12"), t("13"), t("14"), t("11"), t("12"),
                                                           t("13"), t("14")}));
-        const QStringList r11 = registros(arquivo, t("11"));
-        QCOMPARE(r11.size(), 2);
-        QCOMPARE(de(r11.at(0), 3, 26), t("001") + t("84713012") + x(t("PROD1"), 15));
-        QCOMPARE(de(r11.at(1), 3, 26), t("002") + t("84713012") + x(t("PROD2"), 15));
-        QCOMPARE(de(r11.at(1), 611, 14), d5("3"));
-        // The individual invoice never stores the total it shows, so its record carries zeros there; position 44 is
+        confereProdutos(arquivo, individual);
+        // The monthly invoice keeps the obsolete product's total; its indicator at position 44 is the letter. The
+        // individual invoice never stores the total it shows, so its record carries zeros there; position 44 is
         // zero-filled, which leaves the letter of a typed line as it is.
-        confereDocumentos(arquivo, valoresDIComDecreto(), zeros(15));
+        confereDocumentos(arquivo, valoresDIComDecreto(), individual ? zeros(15) : d2("321", "5"));
 
         Ambiente b;
         reabre(b, arquivo, pasta.path());
         if (QTest::currentTestFailed())
             return;
         b.vaiParaAba(1);
-        Cenario d(b, true);
-        QList<QList<QStringList>> esperadas{
-                            {{t("001"), t("PROD1"), t("001234"), t("A1"), t("001"), t("11.222.333/0001-81")},
-                             {t("001"), t("PROD1"), t("005678"), t("B"), t("002"), t("11.222.333/0001-81")}},
-                            {{t("001"), t("PROD1"), t("09/1234567-") + numeroDI().right(1), QString(), t("001"), t("01")}},
-                            {{t("001"), t("PROD1"), t("09/1234567-") + numeroDSI().right(1), QString(), t("001")}},
-                            {{t("002"), t("PROD2"), t("000042"), t("C"), t("003"), t("44.555.666/0001-81")}},
-                            {{t("002"), t("PROD2"), QString(), t("951234567654321"), t("002"), t("03")}},
-                            {{t("002"), t("PROD2"), QString(), t("977654321123456"), t("002")}}};
+        Cenario d(b, individual);
+        QList<QList<QStringList>> esperadas = gradesDigitadas(individual);
         QCOMPARE(digitadas, esperadas);
-        // The individual reader stores record 14 as it stands, where it empties the zeros of records 12 and 13: the
-        // number a DSI does not have comes back as zeros, the old number's fifteen and the electronic one's ten.
-        esperadas[2][0][3] = zeros(15);
-        esperadas[5][0][2] = t("00/0000000-0");
+        if (individual) {
+            // The individual reader stores record 14 as it stands, where it empties the zeros of records 12 and 13:
+            // the number a DSI does not have comes back as zeros, the old number's fifteen and the electronic one's
+            // ten.
+            esperadas[2][0][3] = zeros(15);
+            esperadas[5][0][2] = t("00/0000000-0");
+        }
         QCOMPARE(gradesDosDocumentos(d), esperadas);
         QCOMPARE(b.msgs.inesperadas, 0);
     }

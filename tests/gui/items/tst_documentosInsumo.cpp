@@ -3,12 +3,11 @@
 // the checks that are the input members' own; the input's name kept in the monthly DI line.
 #include "DocumentoTeste.h"
 #include "ItensTeste.h"
+#include "PISemPPBTeste.h"
 
 #include "gui/items/AbaPIsemPPB.h"
 #include "gui/items/PaginaDocumentosInsumo.h"
 
-#include <QCheckBox>
-#include <QTabWidget>
 
 using namespace ItensTeste;
 
@@ -18,8 +17,6 @@ QString t(const char* s)
 {
     return QString::fromUtf8(s);
 }
-
-const QString Local1 = t("Estados AC, AM, RO e RR");
 
 struct Insumo {
     Ambiente& a;
@@ -34,54 +31,15 @@ struct Insumo {
     const MembroDocumento& membro() const { return quadro()->membro(); }
     QString nome(Papel p) const { return membro().nomes.value(p); }
     void digita(Papel p, const QString& texto) { a.digita(nome(p), texto); }
-    QTabWidget* paginas() const { return a.campo<QTabWidget>(t("tabPIsemPPB")); }
 
     // A declaration with product P001 and its input INS1, left on the page of documents with the input (and its
     // first place, or the item) chosen.
     void prepara()
     {
         naAba(a, individual, 3);
-        BancoTeste::executa(t("INSERT INTO PRODUTO (CD_INT_PRODUTO, NM_INT_PRODUTO) VALUES ('INS1', 'Insumo INS1')"));
-        if (individual) {
-            a.digita(t("txtPIsemPPBNFS(0)"), t("1"));
-            a.digita(t("mskPIsemPPBNFS(0)"), Ncm1);
-            a.digita(t("txtCodProdPIsemPPB"), t("P001"));
-            a.escolhe(t("cboUnidadePIsemPPB"), t("UN"));
-            a.digita(t("mskPIsemPPBNFS(1)"), t("5"));
-            a.digita(t("mskPIsemPPBNFS(2)"), t("12,5"));
-            a.sai(t("cmdIncluir_tabPIsemPPB_NFS"));
-            a.clica(t("cmdIncluir_tabPIsemPPB_NFS"));
-            paginas()->setCurrentIndex(1);
-            a.escolhe(t("cboItem_PIsemPPB_Insumo"), t("1"));
-            a.digita(t("mskPIsemPPBNFS(5)"), Ncm2);
-            a.digita(t("txtCodInsPIsemPPB"), t("INS1"));
-            a.escolhe(t("cboUnidadeInsumo"), t("UN"));
-            a.digita(t("mskPIsemPPBNFS(6)"), t("2"));
-        } else {
-            a.digita(t("mskNumNCM_TabPIsemPPB"), Ncm1);
-            a.digita(t("txtCodProdPIsemPPB"), t("P001"));
-            a.escolhe(t("cboUnidadePIsemPPB"), t("UN"));
-            a.escolhe(t("cboLocalPIsemPPB"), Local1);
-            a.digita(t("mskPIsemPPB(3)"), t("10"));
-            a.sai(t("cmdIncluir_tabPIsemPPB_CCI"));
-            a.clica(t("cmdIncluir_tabPIsemPPB_CCI"));
-            paginas()->setCurrentIndex(1);
-            a.escolhe(t("cboDocProdutoPIsemPPB"), t("P001"));
-            a.digita(t("mskNumNCMInsumo"), Ncm2);
-            a.digita(t("txtCodInsPIsemPPB"), t("INS1"));
-            a.escolhe(t("cboUnidadeInsumo"), t("UN"));
-            a.digita(t("mskPIsemPPB(4)"), t("0,5"));
-        }
-        a.sai(t("cmdIncluirInsumo"));
-        a.clica(t("cmdIncluirInsumo"));
-        paginas()->setCurrentIndex(2);
-        if (individual) {
-            a.escolhe(t("cmdItem_TabPIsemPPB_Documento"), t("1"));
-            a.escolhe(t("cmbCodigoControleInternoInsumo"), t("INS1"));
-        } else {
-            a.escolhe(t("cboCCIInsumoPIsemPPB"), t("INS1"));
-            a.escolhe(t("cboLocalDestinoInsumo"), Local1);
-        }
+        PISemPPBTeste::cadastraInsumo(t("INS1"));
+        PISemPPBTeste::produtoComInsumo(a, individual);
+        PISemPPBTeste::escolheInsumoDosDocumentos(a, individual);
     }
 
     void escolheTipo(TipoDocumento escolhido)

@@ -6,6 +6,7 @@
 #include "CenariosGravacao.h"
 #include "DocumentoTeste.h"
 #include "ItensTeste.h"
+#include "PISemPPBTeste.h"
 #include "VoltaArquivoTeste.h"
 
 #include <QCheckBox>
@@ -13,6 +14,7 @@
 #include <QTemporaryDir>
 
 using namespace ItensTeste;
+using namespace PISemPPBTeste;
 using namespace VoltaArquivo;
 
 namespace {
@@ -32,43 +34,15 @@ QStringList registrosInsumos(const QByteArray& arquivo)
     return r;
 }
 
-void cadastraInsumos()
-{
-    for (const char* c : {"INS1", "INS2"})
-        BancoTeste::executa(t("INSERT INTO PRODUTO (CD_INT_PRODUTO, NM_INT_PRODUTO) VALUES (?, ?)"),
-                            {t(c), t("Insumo ") + t(c)});
-}
-
-QTabWidget* paginas(Ambiente& a)
-{
-    return a.campo<QTabWidget>(t("tabPIsemPPB"));
-}
-
 void produto(Ambiente& a, const QString& codigo, const QString& local, const QString& qt)
 {
-    a.digita(t("mskNumNCM_TabPIsemPPB"), Ncm1);
-    a.digita(t("txtCodProdPIsemPPB"), codigo);
-    a.escolhe(t("cboUnidadePIsemPPB"), t("UN"));
-    a.escolhe(t("cboLocalPIsemPPB"), local);
-    a.digita(t("mskPIsemPPB(3)"), qt);
-    a.sai(t("cmdIncluir_tabPIsemPPB_CCI"));
-    a.clica(t("cmdIncluir_tabPIsemPPB_CCI"));
+    incluiProduto(a, ProdutoMensal{codigo, local, qt});
 }
 
+// An input of the product chosen; `aliquota`: with a differing II rate of 2 on "Lei 123".
 void insumo(Ambiente& a, const QString& codigo, const QString& qt, bool aliquota)
 {
-    a.digita(t("mskNumNCMInsumo"), Ncm2);
-    a.digita(t("txtCodInsPIsemPPB"), codigo);
-    a.escolhe(t("cboUnidadeInsumo"), t("UN"));
-    a.digita(t("mskPIsemPPB(4)"), qt);
-    a.sai(t("cmdIncluirInsumo"));
-    if (aliquota) {
-        a.campo<QCheckBox>(t("chk_Aliquota_tabPIsemPPB"))->setChecked(true);
-        a.digita(t("mskPIsemPPB(5)"), t("2"));
-        a.digita(t("txtJustifLegalAliqIIPIsemPPB"), t("Lei 123"));
-        a.sai(t("cmdIncluirInsumo"));
-    }
-    a.clica(t("cmdIncluirInsumo"));
+    incluiInsumo(a, InsumoMensal{codigo, qt, aliquota ? t("2") : QString()});
 }
 
 void totalDoInsumo(Ambiente& a, const QString& lista, const QString& campo, const QString& codigo, const QString& qt)
@@ -122,25 +96,10 @@ EditorDeclaracao* itemIndividualComInsumo(Ambiente& a)
 {
     EditorDeclaracao* e = naAba(a, true, 3);
     cadastraInsumos();
-    a.digita(t("txtPIsemPPBNFS(0)"), t("1"));
-    a.digita(t("mskPIsemPPBNFS(0)"), Ncm1);
-    a.digita(t("txtCodProdPIsemPPB"), t("P001"));
-    a.escolhe(t("cboUnidadePIsemPPB"), t("UN"));
-    a.digita(t("mskPIsemPPBNFS(1)"), t("5"));
-    a.digita(t("mskPIsemPPBNFS(2)"), t("12,5"));
-    a.sai(t("cmdIncluir_tabPIsemPPB_NFS"));
-    a.clica(t("cmdIncluir_tabPIsemPPB_NFS"));
+    incluiProduto(a, ProdutoIndividual{});
     paginas(a)->setCurrentIndex(1);
-    a.escolhe(t("cboItem_PIsemPPB_Insumo"), t("1"));
-    a.digita(t("mskPIsemPPBNFS(5)"), Ncm2);
-    a.digita(t("txtCodInsPIsemPPB"), t("INS1"));
-    a.escolhe(t("cboUnidadeInsumo"), t("UN"));
-    a.digita(t("mskPIsemPPBNFS(6)"), t("2"));
-    a.campo<QCheckBox>(t("chk_AliquotaTIPI_tabPIsemPPB"))->setChecked(true);
-    a.digita(t("mskPIsemPPBNFS(8)"), t("5"));
-    a.digita(t("txtPIsemPPBNFS(9)"), t("Decreto 9"));
-    a.sai(t("cmdIncluirInsumo"));
-    a.clica(t("cmdIncluirInsumo"));
+    escolheProdutoDoInsumo(a, true, t("1"));
+    incluiInsumo(a, InsumoIndividual{t("INS1"), t("2"), t("5"), t("Decreto 9")});
     paginas(a)->setCurrentIndex(2);
     a.escolhe(t("cmdItem_TabPIsemPPB_Documento"), t("1"));
     totalDoInsumo(a, t("cmbCodigoControleInternoInsumo"), t("mskPIsemPPB"), t("INS1"), t("3"));
