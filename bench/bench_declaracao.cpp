@@ -10,8 +10,9 @@
 //    the writer read;
 //  - the old bare load: as many CSV rows as the file has records into one table without constraints.
 // Prints wall and CPU seconds, the ratios, and peak memory. Never fails on time. An argument scales the
-// declaration (1 is about 100,000 records; 0.01, 0.1, 10 for a scaling table). The writing and the export are
-// each run three times and the best run of each is printed, as the machine is shared; "--so-gravacao" stops
+// declaration (1 is about 100,000 records; 0.01, 0.1, 10 for a scaling table). The writing, the export, the
+// reading and the prepared load are each run three times and the best run of each is printed, as the machine is
+// shared; "--so-gravacao" stops
 // after them (a 1,000,000-record writing figure without the slower reading: `bench_declaracao 10 --so-gravacao`).
 //
 // `bench_declaracao --escalas [0.01,0.1,1,10]`: the scaling table alone, without the floors: for each scale the
@@ -660,11 +661,21 @@ int main(int argc, char** argv)
     DesconectaBanco();
     const QString antes = pasta + QStringLiteral("/antes.mdb");
     QFile::copy(destino, antes);
-    ConectaBanco(destino);
-    Cronometro cl;
-    LeArquivoVrt leitura(pasta, QFileInfo(arquivo).fileName(), ModoLeitura::Restaurar);
-    const bool lida = leitura.executa();
-    const Medida ler = cl.para();
+    // Three readings, each into its own copy of the database as it was before; the best of each measure.
+    bool lida = true;
+    Medida ler{1e9, 1e9};
+    for (int i = 0; i < 3; ++i) {
+        QFile::remove(destino);
+        QFile::copy(antes, destino);
+        ConectaBanco(destino);
+        Cronometro cl;
+        LeArquivoVrt leitura(pasta, QFileInfo(arquivo).fileName(), ModoLeitura::Restaurar);
+        lida = leitura.executa() && lida;
+        const Medida m = cl.para();
+        ler = {qMin(ler.parede, m.parede), qMin(ler.cpu, m.cpu)};
+        if (i < 2)
+            DesconectaBanco();
+    }
     const long memoriaLeitura = [] { rusage u{}; getrusage(RUSAGE_SELF, &u); return u.ru_maxrss; }();
     qint64 linhasCriadas = 0;
     for (const QString& t : tabelas)
@@ -676,7 +687,15 @@ int main(int argc, char** argv)
     const QString antesShell = pasta + QStringLiteral("/antes-shell.mdb");
     QFile::copy(antes, antesShell);
     const std::vector<LinhasTabela> criadas = tiraLinhasCriadas(destino, antes, tabelas);
-    const Medida preparada = cargaPreparada(antes, criadas);
+    const QString antesCopia = pasta + QStringLiteral("/antes-copia.mdb");
+    QFile::copy(antes, antesCopia);
+    Medida preparada{1e9, 1e9};
+    for (int i = 0; i < 3; ++i) {
+        QFile::remove(antes);
+        QFile::copy(antesCopia, antes);
+        const Medida m = cargaPreparada(antes, criadas);
+        preparada = {qMin(preparada.parede, m.parede), qMin(preparada.cpu, m.cpu)};
+    }
     const auto contaEm = [&tabelas](const QString& banco) {
         ConectaBanco(banco);
         qint64 n = 0;

@@ -3,6 +3,7 @@
 #include "core/rules/Formatadores.h"
 #include "core/session/MsgBox.h"
 #include "core/session/modVRTPLN.h"
+#include "core/store/ComandoSqlite.h"
 #include "core/store/ComandosPreparados.h"
 #include "core/store/modBancoDados.h"
 
@@ -61,14 +62,15 @@ QList<QStringView> divideLinhas(const QString& texto)
 }
 
 const QString InsereMoeda = QStringLiteral("INSERT INTO MOEDA (CD_MOEDA, NM_MOEDA) VALUES (?, ?)");
-const QString ProcuraNcm = QStringLiteral("SELECT CD_NCM_PRODUTO FROM NCM_ITEM WHERE CD_NCM_PRODUTO = ?");
-const QString InsereNcm =
-    QStringLiteral("INSERT INTO NCM_ITEM (CD_NCM_PRODUTO, DESCR_NCM_PRODUTO, NM_UNID_MED_EST) VALUES (?, ?, ?)");
-const QString AlteraNcm =
-    QStringLiteral("UPDATE NCM_ITEM SET DESCR_NCM_PRODUTO = ?, NM_UNID_MED_EST = ? WHERE CD_NCM_PRODUTO = ?");
-const QString ProcuraProduto = QStringLiteral("SELECT CD_INT_PRODUTO FROM PRODUTO WHERE CD_INT_PRODUTO = ?");
-const QString InsereProduto = QStringLiteral("INSERT INTO PRODUTO (CD_INT_PRODUTO, NM_INT_PRODUTO) VALUES (?, ?)");
-const QString AlteraProduto = QStringLiteral("UPDATE PRODUTO SET NM_INT_PRODUTO = ? WHERE CD_INT_PRODUTO = ?");
+// A code already in the table has its other columns changed, a new one is inserted: one statement, where a
+// search and then an insertion or a change were two.
+const QString GravaNcm = QStringLiteral(
+    "INSERT INTO NCM_ITEM (CD_NCM_PRODUTO, DESCR_NCM_PRODUTO, NM_UNID_MED_EST) VALUES (?, ?, ?) "
+    "ON CONFLICT (CD_NCM_PRODUTO) DO UPDATE SET DESCR_NCM_PRODUTO = excluded.DESCR_NCM_PRODUTO, "
+    "NM_UNID_MED_EST = excluded.NM_UNID_MED_EST");
+const QString GravaProduto = QStringLiteral(
+    "INSERT INTO PRODUTO (CD_INT_PRODUTO, NM_INT_PRODUTO) VALUES (?, ?) "
+    "ON CONFLICT (CD_INT_PRODUTO) DO UPDATE SET NM_INT_PRODUTO = excluded.NM_INT_PRODUTO");
 const QString InsereUf = QStringLiteral("INSERT INTO UNIDADE_FEDERATIVA (CD_UF_DESTINO, NM_UF) VALUES (?, ?)");
 const QString InsereUnidade = QStringLiteral("INSERT INTO UNIDADE_MEDIDA (CD_UNID_MEDIDA, NM_MEDIDA) VALUES (?, ?)");
 
@@ -82,22 +84,20 @@ public:
             limpaUmaVez(QStringLiteral("DELETE FROM MOEDA"));
             m_c.executa(InsereMoeda, {campo(linha, 3, 3), nome(linha, 6, 35)});
         } else if (tipo == u"02") {
-            const QString codigo = campo(linha, 3, 8);
-            const QString descricao = nome(linha, 11, 80);
-            const QString unidade = nome(linha, 91, 50);
-            if (m_c.existe(ProcuraNcm, {codigo}))
-                m_c.executa(AlteraNcm, {descricao, unidade, codigo});
-            else
-                m_c.executa(InsereNcm, {codigo, descricao, unidade});
+            ComandoSqlite& c = comando(m_gravaNcm, GravaNcm);
+            c.inicia();
+            c.ligaTexto(0, linha.mid(2, 8));
+            c.ligaTexto(1, nome(linha, 11, 80));
+            c.ligaTexto(2, nome(linha, 91, 50));
+            m_c.executaLigado(c);
         } else if (tipo == u"03") {
             // The code is compared with its trailing blanks, exactly as it stands in the file; the key's index
             // finds it, where the old routine walked the whole table for every line.
-            const QString codigo = campo(linha, 3, 15);
-            const QString descricao = nome(linha, 18, 80);
-            if (m_c.existe(ProcuraProduto, {codigo}))
-                m_c.executa(AlteraProduto, {descricao, codigo});
-            else
-                m_c.executa(InsereProduto, {codigo, descricao});
+            ComandoSqlite& c = comando(m_gravaProduto, GravaProduto);
+            c.inicia();
+            c.ligaTexto(0, linha.mid(2, 15));
+            c.ligaTexto(1, nome(linha, 18, 80));
+            m_c.executaLigado(c);
         } else if (tipo == u"04") {
             limpaUmaVez(QStringLiteral("DELETE FROM UNIDADE_FEDERATIVA"));
             m_c.executa(InsereUf, {campo(linha, 3, 2), nome(linha, 5, 25)});
@@ -115,6 +115,13 @@ public:
     QString ultimoTipo() const { return m_ultimoTipo; }
 
 private:
+    ComandoSqlite& comando(ComandoSqlite*& guardado, const QString& sql)
+    {
+        if (!guardado)
+            guardado = &m_c.comando(sql);
+        return *guardado;
+    }
+
     // One flag serves the three replaced tables: only the first of them that a file meets is emptied, and the
     // lines of the others are inserted over what those tables hold.
     void limpaUmaVez(const QString& sql)
@@ -127,6 +134,8 @@ private:
 
     // A failed statement rolls the import back first and then ends the run, as the import routines always did.
     ComandosPreparados m_c{ComandosPreparados::AntesDeFalhar::DesfazTransacao};
+    ComandoSqlite* m_gravaNcm = nullptr;
+    ComandoSqlite* m_gravaProduto = nullptr;
     bool m_tabelaLimpa = false;
     QString m_ultimoTipo;
 };

@@ -87,14 +87,21 @@ bool VerificaArquivoVrt::verifica(QIODevice& dispositivo)
     while (!arquivo.fim() && cabecalho.size() < 4)
         cabecalho << arquivo.proxima();
     m_linhas = cabecalho.size();
-    if (cabecalho.isEmpty()) {
+    if (cabecalho.isEmpty() && !arquivo.falhou()) {
         problema(0, s("Erro - Arquivo sem registros!"));
         return true;
     }
-    verificaCabecalho(cabecalho);
-    const TipoDeclaracao declaracao = cabecalho.at(0).mid(15, 1) == s("1") ? TipoDeclaracao::Individual
-                                                                           : TipoDeclaracao::Mensal;
-    verificaItens(arquivo, declaracao);
+    if (!cabecalho.isEmpty()) {
+        verificaCabecalho(cabecalho);
+        const TipoDeclaracao declaracao = cabecalho.at(0).mid(15, 1) == s("1") ? TipoDeclaracao::Individual
+                                                                               : TipoDeclaracao::Mensal;
+        verificaItens(arquivo, declaracao);
+    }
+    if (arquivo.falhou()) {
+        const auto* f = qobject_cast<QFile*>(&dispositivo);
+        problema(m_linhas, s("Erro na leitura do arquivo ") + (f ? f->fileName() : QString()) +
+                               s(" - o arquivo foi alterado ou retirado durante a leitura!"));
+    }
     return true;
 }
 

@@ -3,7 +3,16 @@
 #include "core/file/reading/EstadoLeitura.h"
 #include "core/rules/Formatadores.h"
 #include "core/session/MsgBox.h"
+#include "core/store/ComandoSqlite.h"
 #include "core/store/ComandosPreparados.h"
+
+namespace {
+// The key alone decides: any other refusal (a code or a name too long) still refuses the line.
+const char* const InsereProduto =
+    "INSERT INTO PRODUTO (CD_INT_PRODUTO, NM_INT_PRODUTO) VALUES (?, ?) ON CONFLICT (CD_INT_PRODUTO) DO NOTHING";
+const char* const AlteraProduto =
+    "UPDATE PRODUTO SET CD_INT_PRODUTO = ?, NM_INT_PRODUTO = ? WHERE CD_INT_PRODUTO = ?";
+}  // namespace
 
 CadastrosLeitura::CadastrosLeitura(ComandosPreparados& comandos, EstadoLeitura& estado)
     : m_comandos(comandos), m_estado(estado)
@@ -17,6 +26,23 @@ void CadastrosLeitura::zeraContadores()
     UnidadesCadastradas = 0;
 }
 
+ComandoSqlite& CadastrosLeitura::comando(ComandoSqlite*& guardado, const char* sql)
+{
+    if (!guardado)
+        guardado = &m_comandos.comando(QString::fromUtf8(sql));
+    return *guardado;
+}
+
+void CadastrosLeitura::alteraProduto(const QString& codigo, const QString& nome)
+{
+    ComandoSqlite& altera = comando(m_alteraProduto, AlteraProduto);
+    altera.inicia();
+    altera.ligaTexto(0, codigo);
+    altera.ligaTexto(1, nome);
+    altera.ligaTexto(2, codigo);
+    m_comandos.executaLigado(altera);
+}
+
 bool CadastrosLeitura::RegistraProduto(const QString& codigo, const QString& nome)
 {
     const QString cod = Funcoes::TiraBrancos(codigo);
@@ -24,23 +50,24 @@ bool CadastrosLeitura::RegistraProduto(const QString& codigo, const QString& nom
     const auto conhecido = m_produtos.constFind(cod);
     if (conhecido != m_produtos.constEnd()) {
         if (conhecido.value() != nm) {
-            m_comandos.executa("UPDATE PRODUTO SET CD_INT_PRODUTO = ?, NM_INT_PRODUTO = ? WHERE CD_INT_PRODUTO = ?",
-                               {ComandosPreparados::texto(cod), ComandosPreparados::texto(nm),
-                                ComandosPreparados::texto(cod)});
+            alteraProduto(cod, nm);
             m_produtos.insert(cod, nm);
         }
         ++ProdutosAlterados;
         return true;
     }
-    if (ExisteProduto(cod)) {
-        m_comandos.executa("UPDATE PRODUTO SET CD_INT_PRODUTO = ?, NM_INT_PRODUTO = ? WHERE CD_INT_PRODUTO = ?",
-                           {ComandosPreparados::texto(cod), ComandosPreparados::texto(nm),
-                            ComandosPreparados::texto(cod)});
-        ++ProdutosAlterados;
-    } else {
-        m_comandos.executa("INSERT INTO PRODUTO (CD_INT_PRODUTO, NM_INT_PRODUTO) VALUES (?, ?)",
-                           {ComandosPreparados::texto(cod), ComandosPreparados::texto(nm)});
+    // One statement where a search and then an insertion were two: a row written means a new product.
+    ComandoSqlite& insere = comando(m_insereProduto, InsereProduto);
+    insere.inicia();
+    insere.ligaTexto(0, cod);
+    insere.ligaTexto(1, nm);
+    const MarcaEscrita antes = ComandoSqlite::marcaEscrita();
+    m_comandos.executaLigado(insere);
+    if (ComandoSqlite::marcaEscrita() != antes) {
         ++ProdutosCadastrados;
+    } else {
+        alteraProduto(cod, nm);
+        ++ProdutosAlterados;
     }
     m_produtos.insert(cod, nm);
     return true;

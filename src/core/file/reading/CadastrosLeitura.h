@@ -8,6 +8,7 @@
 #include <QString>
 
 class ComandosPreparados;
+class ComandoSqlite;
 struct EstadoLeitura;
 
 class CadastrosLeitura {
@@ -31,7 +32,13 @@ public:
     int UnidadesCadastradas = 0;
 
 private:
+    // The statement of `sql` from the reading's cache, looked up once.
+    ComandoSqlite& comando(ComandoSqlite*& guardado, const char* sql);
+    void alteraProduto(const QString& codigo, const QString& nome);
+
     ComandosPreparados& m_comandos;
+    ComandoSqlite* m_insereProduto = nullptr;
+    ComandoSqlite* m_alteraProduto = nullptr;
     EstadoLeitura& m_estado;
     QHash<QString, QString> m_produtos;  // code -> name now in PRODUTO
     QSet<QString> m_unidades;            // names known to be in UNIDADE_MEDIDA

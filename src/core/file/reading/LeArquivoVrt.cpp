@@ -41,6 +41,13 @@ LeArquivoVrt::LeArquivoVrt(const QString& pasta, const QString& nome, ModoLeitur
     m_caminho = static_cast<QFile*>(m_arquivo)->fileName();
 }
 
+bool LeArquivoVrt::falhaDeLeitura()
+{
+    return m_estado.falha(m_tipoAtual, s("Erro na leitura do arquivo ") + m_caminho + s(" após o ") +
+                                           QString::number(m_estado.ContaLinhas) +
+                                           s("º registro - o arquivo foi alterado ou retirado durante a leitura!"));
+}
+
 bool LeArquivoVrt::erroCabecalho(const QString& texto)
 {
     return m_estado.falha(m_cabecaAtual, texto);
@@ -84,6 +91,8 @@ const ResultadoLeitura& LeArquivoVrt::le()
     LinhasArquivo linhas;
     if (!linhas.abre(*m_arquivo)) {
         erroCabecalho(s("Não foi possível abrir o arquivo ") + m_caminho + s("."));
+    } else if (linhas.falhou()) {
+        falhaDeLeitura();
     } else if (linhas.fim()) {
         erroCabecalho(s("Erro - Arquivo sem registros!"));
     } else {
@@ -183,7 +192,7 @@ bool LeArquivoVrt::leCabeca(LinhasArquivo& linhas, int numero, QString& linha)
     m_cabecaAtual = tipo;
     m_tipoAtual = tipo;
     if (linhas.fim())
-        return m_estado.falha(tipo, RegistrosCabeca::textoAusente(numero));
+        return linhas.falhou() ? falhaDeLeitura() : m_estado.falha(tipo, RegistrosCabeca::textoAusente(numero));
     linha = linhas.proxima();
     ++m_estado.ContaLinhas;
     const QString problema = RegistrosCabeca::confere(numero, linha);
@@ -308,7 +317,8 @@ bool LeArquivoVrt::leItens(LinhasArquivo& linhas)
         if (!ok)
             return false;
     }
-    return true;
+    // A file that ended before its counted end was not read whole: nothing of it may stay.
+    return !linhas.falhou() || falhaDeLeitura();
 }
 
 bool LeArquivoVrtEm(const QString& pasta, const QString& nome, ModoLeitura modo, ProgressoLeitura progresso)

@@ -80,6 +80,8 @@ private:
     void avisaProgresso(qint64 lidas, qint64 total, bool sempre = false);
 
     bool erroCabecalho(const QString& texto);
+    // The file became shorter or unreadable while it was read.
+    bool falhaDeLeitura();
 
     std::unique_ptr<QIODevice> m_arquivoProprio;  // the file of the path-taking constructor
     QIODevice* m_arquivo = nullptr;
