@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QDir>
 #include <QFile>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
@@ -32,6 +33,14 @@ QString defeitoDeLayout(QWidget* tela)
     for (QLineEdit* e : tela->findChildren<QLineEdit*>())
         if (e->isVisible() && e->fontMetrics().horizontalAdvance(e->displayText()) + 8 > e->width())
             return t("campo estreito: ") + e->objectName();
+    for (ConsultGrid* g : tela->findChildren<ConsultGrid*>()) {
+        if (!g->isVisible())
+            continue;
+        const QFontMetrics titulo(g->horizontalHeader()->font());
+        for (int c = 0; c < g->columnCount(); ++c)
+            if (!g->isColumnHidden(c) && g->columnWidth(c) < titulo.horizontalAdvance(g->titleText(c)) + 8)
+                return t("título cortado: ") + g->objectName() + QLatin1Char('/') + g->titleText(c);
+    }
     for (QWidget* w : tela->findChildren<QWidget*>()) {
         if (!w->isVisible() || w->isWindow())
             continue;
@@ -81,6 +90,10 @@ private slots:
         a.incluiValor(0, t("VRT - PE"), t("Imposto de Importação"), t("1234,5"));
         a.incluiValor(0, t("VRT - PE"), t("COFINS"), t("310"));
         a.incluiValor(0, t("VRT"), t("Multa por Atraso"), t("75"));
+        a.escolhe(t("cboModalidade(0)"), t("VRT - PI sem PPB"));
+        a.escolhe(t("cboDescricao(0)"), t("Imposto sobre Prod. Industrializados"));
+        a.digita(t("mskValor(0)"), t("9999999999999,99"));
+        a.sai(t("cboModalidade(0)"));
         salva(a, t("frmVRTmensalNovo.png"));
         a.clica(t("ChkMand_Retif(1)"));
         a.abasValores()->setCurrentIndex(1);
@@ -103,10 +116,15 @@ private slots:
         a.digita(t("mskDadosGeraisIndividual(1)"), t("12052009"));
         a.digita(t("txtDadosGeraisIndividual(2)"), t("6102"));
         a.digita(t("mskDadosGeraisIndividual(2)"), t("33000167000101"));
-        a.escolhe(t("cboUF"), t("AM"));
+        // The longest names: the UF's, and the largest value a value field takes, each shown whole.
+        a.escolhe(t("cboUF"), t("RN"));
         a.sai(t("txtDadosGerais(1)"));
         a.clica(t("ChkMand_Retif(0)"));
         a.incluiValor(0, t("VRT - PI sem PPB"), t("Multa de Mora IPI"), t("99,99"));
+        a.escolhe(t("cboModalidade(0)"), t("VRT - PI sem PPB"));
+        a.escolhe(t("cboDescricao(0)"), t("Juros de Mora PIS/PASEP"));
+        a.digita(t("mskValor(0)"), t("9999999999999,99"));
+        a.sai(t("cboModalidade(0)"));
         salva(a, t("frmVRTindividualNovo.png"));
         QCOMPARE(a.msgs.inesperadas, 0);
     }

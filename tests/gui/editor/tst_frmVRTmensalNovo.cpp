@@ -38,6 +38,40 @@ private slots:
         QCOMPARE(a.msgs.inesperadas, 0);
     }
 
+    // Every grid of both editors, on every tab and document page: a column of figures (quantities, values,
+    // rates) stands right-aligned, a column of codes, names, masked numbers or dates left-aligned.
+    void numerosDasGradesAlinhadosADireita()
+    {
+        for (bool individual : {false, true}) {
+            Ambiente a;
+            if (individual) {
+                a.novaIndividual();
+                a.preencheIndividual();
+            } else {
+                a.novaMensal();
+                a.preencheMensal();
+            }
+            for (int aba = 1; aba <= 4; ++aba)
+                a.vaiParaAba(aba);
+            const QList<ConsultGrid*> grades = a.editor()->findChildren<ConsultGrid*>();
+            QVERIFY(grades.size() > 10);
+            const QStringList figuras = {QStringLiteral("Quantidade"), QStringLiteral("Valor"),
+                                         QStringLiteral("PIS/PASEP"), QStringLiteral("COFINS")};
+            int aDireita = 0;
+            for (ConsultGrid* g : grades)
+                for (int c = 0; c < g->columnCount(); ++c) {
+                    const QString titulo = g->titleText(c);
+                    if (g->isColumnHidden(c) || titulo.isEmpty())
+                        continue;
+                    const bool direita = g->columnAlignment(c) & Qt::AlignRight;
+                    QVERIFY2(direita == figuras.contains(titulo), qPrintable(g->objectName() + QLatin1Char('/') + titulo));
+                    aDireita += direita;
+                }
+            // Both values grids, and the quantity of every item and document grid.
+            QVERIFY(aDireita >= (individual ? 8 : 15));
+        }
+    }
+
     void fecharNovaSemDigitarNaoPerguntaNemGrava()
     {
         Ambiente a;

@@ -383,6 +383,37 @@ private slots:
                                                 "processo o número do processo deve ser informado!")});
         QCOMPARE(a.abas()->currentIndex(), 0);
     }
+    // The monthly editor tests the process as soon as all its digits stand, with an exclamation mark; the
+    // individual one only when the field is left, and its text has none.
+    void processoZeradoRecusadoComOTextoDeCadaEditor()
+    {
+        const QString zeros(17, QLatin1Char('0'));
+        {
+            Ambiente a;
+            abreValores(a, 1);
+            a.digita(QStringLiteral("mskDadosGerais(0)"), numeroVrt());
+            a.clica(QStringLiteral("chkSimRest"));
+            a.msgs.responde(Msg::OK);
+            a.digita(QStringLiteral("mskDadosGerais(3)"), zeros);
+            QCOMPARE(a.msgs.textos(), QStringList{t("O número de processo não pode ser zero!")});
+        }
+        {
+            Ambiente a;
+            a.novaIndividual();
+            a.preencheIndividual();
+            a.clica(QStringLiteral("ChkMand_Retif(1)"));
+            QCOMPARE(a.msgs.textos(), QStringList{});
+            a.digita(QStringLiteral("mskDadosGerais(0)"), numeroVrt());
+            a.clica(QStringLiteral("chkSimRest"));
+            a.digita(QStringLiteral("mskDadosGerais(3)"), zeros);
+            QCOMPARE(a.msgs.textos(), QStringList{});
+            a.msgs.responde(Msg::OK);
+            a.sai(QStringLiteral("chkSimRest"));
+            QCOMPARE(a.msgs.textos(), QStringList{t("O número de processo não pode ser zero")});
+            QTRY_COMPARE(QApplication::focusWidget(), a.campo(QStringLiteral("mskDadosGerais(3)")));
+        }
+    }
+
     // Right after a load a click chooses nothing until the grid's current row has moved: the first row, current
     // since the load, does not answer a click; another row does, and from then on every click until the next load.
     void cliqueSoEscolheDepoisQueALinhaAtualMudou()
