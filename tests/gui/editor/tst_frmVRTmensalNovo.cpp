@@ -351,6 +351,17 @@ private slots:
         QTRY_COMPARE(QApplication::focusWidget(), a.campo(QStringLiteral("txtDadosGerais(3)")));
     }
 
+    void agenciaZeroRecusadaAoSair()
+    {
+        Ambiente a;
+        a.novaMensal();
+        a.msgs.responde(Msg::OK);
+        a.digita(QStringLiteral("txtDadosGerais(2)"), QStringLiteral("0000"));
+        a.sai(QStringLiteral("txtDadosGerais(3)"));
+        QCOMPARE(a.msgs.textos(), QStringList{QString::fromUtf8("Agência inválida.")});
+        QTRY_COMPARE(QApplication::focusWidget(), a.campo(QStringLiteral("txtDadosGerais(2)")));
+    }
+
     void bancoZeroRecusadoAoSair()
     {
         Ambiente a;
