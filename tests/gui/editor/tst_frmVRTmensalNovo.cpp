@@ -186,6 +186,27 @@ private slots:
         QCOMPARE(a.msgs.caixas.size(), 0);
     }
 
+    // A CNPJ counts as changed only once all its digits stand: a half-typed one is no change, and closing asks
+    // nothing and keeps the stored CNPJ; a whole other CNPJ is a change, and closing asks.
+    void cnpjPelaMetadeNaoContaComoMudanca()
+    {
+        Ambiente a;
+        a.novaMensal();
+        a.preencheMensal();
+        a.vaiParaAba(1);
+        a.salvar();
+        a.vaiParaAba(0);
+        a.campo<QLineEdit>(QStringLiteral("mskDadosGerais(1)"))->setText(QStringLiteral("1122"));
+        QVERIFY(!a.editor()->TestaDadosGerais());
+        a.campo<QLineEdit>(QStringLiteral("mskDadosGerais(1)"))->setText(QStringLiteral("33000167000101"));
+        QVERIFY(a.editor()->TestaDadosGerais());
+        a.campo<QLineEdit>(QStringLiteral("mskDadosGerais(1)"))->setText(QStringLiteral("1122"));
+        a.fechar();
+        QVERIFY(!a.editor());
+        QCOMPARE(a.msgs.caixas.size(), 0);
+        QCOMPARE(a.comprometido(QStringLiteral("SELECT NR_CNPJ_INTERNADOR FROM VRT")).toString(), Cnpj);
+    }
+
     void bancoAlteradoSemTrocaDeAbaNaoEntraNoSalvar()
     {
         Ambiente a;
