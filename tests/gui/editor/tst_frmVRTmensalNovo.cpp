@@ -4,6 +4,7 @@
 
 #include "gui/assistants/frmAssistenteVRT.h"
 #include "gui/editor/AbaDadosGerais.h"
+#include "gui/widgets/TextField.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -69,6 +70,43 @@ private slots:
                 }
             // Both values grids, and the quantity of every item and document grid.
             QVERIFY(aDireita >= (individual ? 8 : 15));
+        }
+    }
+
+    // Every masked and digit field of the general data selects all of its text when it receives the focus, in both
+    // editors; free-text fields (the series) put the caret behind their text instead.
+    void camposDosDadosGeraisSelecionamTudoAoReceberOFoco()
+    {
+        for (bool individual : {false, true}) {
+            Ambiente a;
+            if (individual) {
+                a.novaIndividual();
+                a.preencheIndividual();
+            } else {
+                a.novaMensal();
+                a.preencheMensal();
+            }
+            a.campo<QLineEdit>(QStringLiteral("txtDadosGerais(1)"))->setText(QStringLiteral("001"));
+            a.campo<QLineEdit>(QStringLiteral("txtDadosGerais(2)"))->setText(QStringLiteral("1234"));
+            int vistos = 0;
+            for (QLineEdit* e : a.editor()->findChild<QWidget*>(QStringLiteral("tabDeclaracao(0)"))->findChildren<QLineEdit*>()) {
+                if (!e->isVisible() || !e->isEnabled() || e->text().isEmpty() || e->objectName().isEmpty()
+                    || qobject_cast<QComboBox*>(e->parentWidget()))
+                    continue;
+                a.campo(QStringLiteral("ChkMand_Retif(0)"))->setFocus(Qt::TabFocusReason);
+                QCoreApplication::processEvents();
+                e->setFocus(Qt::TabFocusReason);
+                QCoreApplication::processEvents();
+                if (qobject_cast<TextField*>(e)) {
+                    QTRY_VERIFY(e->selectedText().isEmpty());
+                    QCOMPARE(e->cursorPosition(), e->text().size());
+                    continue;
+                }
+                QTRY_COMPARE(e->selectedText(), e->displayText());
+                ++vistos;
+            }
+            QVERIFY(vistos >= (individual ? 9 : 5));
+            a.msgs.limpa();
         }
     }
 
