@@ -157,12 +157,8 @@ void ExecutorBloco::constroi(QWidget* area)
     m_grade->setClickNeedsRowChange(true);
     // Column 0 stands empty, as in every consult grid of the editors.
     QList<ConsultGrid::Column> colunas{{QString(), 20}};
-    for (const ColunaGrade& g : m_d.colunasGrade) {
-        const bool numero = !g.formato.isEmpty() && !g.formato.contains(QLatin1Char('@'))
-                            && !g.formato.contains(QLatin1Char('/'));
-        colunas.append({g.titulo, g.largura,
-                        numero ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter, g.maisLarga});
-    }
+    for (const ColunaGrade& g : m_d.colunasGrade)
+        colunas.append({g.titulo, g.largura, ConsultGrid::alignmentFor(g.formato, g.coluna), g.maisLarga});
     m_grade->setColumns(colunas);
     // The grid takes the height the screen leaves it, a few rows at least, so that a tab of several blocks still
     // opens inside the main window.

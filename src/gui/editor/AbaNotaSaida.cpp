@@ -120,6 +120,8 @@ void AbaNotaSaida::constroiDestino()
     cboUF->setObjectName(QStringLiteral("cboUF"));
     txtNomeUf = new TextField(QStringLiteral("txtDadosGeraisIndividual(6)"), 20, destino);
     txtNomeUf->setEnabled(false);
+    // The longest name of a state shows whole.
+    larguraParaTexto(txtNomeUf, QStringLiteral("Rio Grande do Norte"));
     ChkMand_Retif2 = new QCheckBox(QStringLiteral("ALC"), destino);
     ChkMand_Retif2->setObjectName(QStringLiteral("ChkMand_Retif(2)"));
     d->addRow(QStringLiteral("UF"), cboUF);

@@ -62,7 +62,7 @@ QuadroDocumento::QuadroDocumento(const MembroDocumento& membro, QWidget* parent)
     grade->setObjectName(m_m.nomeGrade);
     QList<ConsultGrid::Column> colunas{{QString(), 20}};
     for (const ColunaDocumento& c : m_m.grade)
-        colunas.append({c.titulo, c.largura});
+        colunas.append({c.titulo, c.largura, ConsultGrid::alignmentFor(c.formato, c.fonte)});
     colunas.append({m_m.dados.colunaId, 0});
     grade->setColumns(colunas);
     grade->setMinimumHeight(90);

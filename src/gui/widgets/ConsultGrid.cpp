@@ -5,6 +5,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QRegularExpression>
 #include <QStyle>
 #include <QTimer>
 
@@ -82,6 +83,20 @@ void ConsultGrid::fitRowHeightsLater()
         return;
     m_fitPending = true;
     QTimer::singleShot(0, this, &ConsultGrid::fitRowHeights);
+}
+
+Qt::Alignment ConsultGrid::alignmentFor(const QString& format, const QString& source)
+{
+    static const QRegularExpression numberFormat(QStringLiteral("^[#0,.]*0[#0,.]*$"));
+    static const QRegularExpression figureColumn(QStringLiteral("^(QT|VL|PC|ALIQ)_"),
+                                                 QRegularExpression::CaseInsensitiveOption);
+    const bool figure = format.isEmpty() ? figureColumn.match(source).hasMatch() : numberFormat.match(format).hasMatch();
+    return (figure ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
+}
+
+Qt::Alignment ConsultGrid::columnAlignment(int column) const
+{
+    return m_model->alignment(column);
 }
 
 void ConsultGrid::setColumns(const QList<Column>& columns)

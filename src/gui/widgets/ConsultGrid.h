@@ -36,6 +36,11 @@ public:
 
     explicit ConsultGrid(QWidget* parent = nullptr);
 
+    // How a column stands, from what it shows: a number format ("#,##0.00") or a quantity, value, percentage or
+    // rate column of the store (QT_, VL_, PC_, ALIQ_) is a figure and stands right-aligned, as figures are read
+    // and compared; codes, masked numbers ("@@@@.@@.@@") and dates stay left. Every grid asks this one rule.
+    static Qt::Alignment alignmentFor(const QString& format, const QString& source = QString());
+
     // Sets the columns, visible and hidden, in the order the rows give their cells.
     void setColumns(const QList<Column>& columns);
     // Cuts the grid to its title row.
@@ -66,6 +71,7 @@ public:
     int dataRowCount() const { return rowCount(); }
     int rowCount() const;
     int columnCount() const;
+    Qt::Alignment columnAlignment(int column) const;
     int currentRow() const;
     void setCurrentCell(int row, int column);
     QString cellText(int row, int column) const;

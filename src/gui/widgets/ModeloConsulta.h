@@ -20,6 +20,7 @@ public:
     void removeAt(int row);
 
     const QStringList& row(int r) const { return m_rows.at(r); }
+    Qt::Alignment alignment(int c) const { return m_alignment.value(c, Qt::AlignLeft | Qt::AlignVCenter); }
     QString value(int r, int c) const { return m_rows.at(r).value(c); }
     // The text a cell shows: its value without trailing blanks, which fixed-width tables store and which
     // would only make the grid elide the text.

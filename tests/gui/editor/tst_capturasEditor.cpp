@@ -6,10 +6,16 @@
 #include <QAbstractButton>
 #include <QDir>
 #include <QFile>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMessageBox>
+#include <QTimer>
+
+#include "core/session/MsgBox.h"
+#include "gui/widgets/MessageBoxHandler.h"
 
 using namespace EditorTeste;
 
@@ -32,6 +38,14 @@ QString defeitoDeLayout(QWidget* tela)
     for (QLineEdit* e : tela->findChildren<QLineEdit*>())
         if (e->isVisible() && e->fontMetrics().horizontalAdvance(e->displayText()) + 8 > e->width())
             return t("campo estreito: ") + e->objectName();
+    for (ConsultGrid* g : tela->findChildren<ConsultGrid*>()) {
+        if (!g->isVisible())
+            continue;
+        const QFontMetrics titulo(g->horizontalHeader()->font());
+        for (int c = 0; c < g->columnCount(); ++c)
+            if (!g->isColumnHidden(c) && g->columnWidth(c) < titulo.horizontalAdvance(g->titleText(c)) + 8)
+                return t("título cortado: ") + g->objectName() + QLatin1Char('/') + g->titleText(c);
+    }
     for (QWidget* w : tela->findChildren<QWidget*>()) {
         if (!w->isVisible() || w->isWindow())
             continue;
@@ -62,6 +76,19 @@ void salva(Ambiente& a, const QString& nome)
     QVERIFY2(defeito.isEmpty(), qPrintable(nome + t(": ") + defeito));
 }
 
+// A picture for looking at only, under <build>/capturas, with the same layout checks.
+void salvaSemAjuda(Ambiente& a, const QString& nome)
+{
+    QTest::qWait(50);
+    const QString pasta = t(VRT_BINARY_DIR "/capturas");
+    QDir().mkpath(pasta);
+    QVERIFY(a.janela.grab().save(pasta + QLatin1Char('/') + nome));
+    QMdiSubWindow* janela = a.janela.mdiArea()->activeSubWindow();
+    QVERIFY(janela && a.janela.mdiArea()->rect().contains(janela->geometry()));
+    const QString defeito = defeitoDeLayout(a.editor());
+    QVERIFY2(defeito.isEmpty(), qPrintable(nome + t(": ") + defeito));
+}
+
 }  // namespace
 
 class tst_capturasEditor : public QObject {
@@ -81,6 +108,10 @@ private slots:
         a.incluiValor(0, t("VRT - PE"), t("Imposto de Importação"), t("1234,5"));
         a.incluiValor(0, t("VRT - PE"), t("COFINS"), t("310"));
         a.incluiValor(0, t("VRT"), t("Multa por Atraso"), t("75"));
+        a.escolhe(t("cboModalidade(0)"), t("VRT - PI sem PPB"));
+        a.escolhe(t("cboDescricao(0)"), t("Imposto sobre Prod. Industrializados"));
+        a.digita(t("mskValor(0)"), t("9999999999999,99"));
+        a.sai(t("cboModalidade(0)"));
         salva(a, t("frmVRTmensalNovo.png"));
         a.clica(t("ChkMand_Retif(1)"));
         a.abasValores()->setCurrentIndex(1);
@@ -103,12 +134,67 @@ private slots:
         a.digita(t("mskDadosGeraisIndividual(1)"), t("12052009"));
         a.digita(t("txtDadosGeraisIndividual(2)"), t("6102"));
         a.digita(t("mskDadosGeraisIndividual(2)"), t("33000167000101"));
-        a.escolhe(t("cboUF"), t("AM"));
+        // The longest names: the UF's, and the largest value a value field takes, each shown whole.
+        a.escolhe(t("cboUF"), t("RN"));
         a.sai(t("txtDadosGerais(1)"));
         a.clica(t("ChkMand_Retif(0)"));
         a.incluiValor(0, t("VRT - PI sem PPB"), t("Multa de Mora IPI"), t("99,99"));
+        a.escolhe(t("cboModalidade(0)"), t("VRT - PI sem PPB"));
+        a.escolhe(t("cboDescricao(0)"), t("Juros de Mora PIS/PASEP"));
+        a.digita(t("mskValor(0)"), t("9999999999999,99"));
+        a.sai(t("cboModalidade(0)"));
         salva(a, t("frmVRTindividualNovo.png"));
         QCOMPARE(a.msgs.inesperadas, 0);
+    }
+
+    // The individual editor with both sub-tabs and a restitution: the tallest state of its first tab.
+    void editorIndividualRetificacaoComRestituicao()
+    {
+        Ambiente a;
+        a.janela.resize(1024, 768);
+        a.novaIndividual();
+        a.preencheIndividual();
+        a.clica(t("ChkMand_Retif(0)"));
+        a.clica(t("ChkMand_Retif(1)"));
+        a.abasValores()->setCurrentIndex(1);
+        a.digita(t("mskDadosGerais(0)"), numeroVrt());
+        a.clica(t("chkSimRest"));
+        a.digita(t("mskDadosGerais(3)"), t("12345123456202099"));
+        salvaSemAjuda(a, t("frmVRTindividualNovo_restituicao.png"));
+        QCOMPARE(a.msgs.inesperadas, 0);
+    }
+
+    // The longest message of the general data in the program's real box over the editor: the whole text shows,
+    // on lines no wider than the main window.
+    void caixaDaMensagemMaisLonga()
+    {
+        Ambiente a;
+        a.janela.resize(1024, 768);
+        a.novaMensal();
+        a.digita(t("mskDadosGerais(1)"), Cnpj);
+        a.digita(t("txtDadosGeraisMensal(0)"), t("05"));
+        a.digita(t("txtDadosGeraisMensal(1)"), t("2001"));
+        QString texto;
+        QSize tamanho;
+        const ManipuladorMsg roteiro = InstalaManipuladorMsg([&](const QString& msg, int estilo, const QString& titulo) {
+            QTimer::singleShot(0, [&] {
+                auto* caixa = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                if (!caixa)
+                    return;
+                texto = caixa->text();
+                tamanho = caixa->size();
+                const QString pasta = t(VRT_BINARY_DIR "/capturas");
+                QDir().mkpath(pasta);
+                caixa->grab().save(pasta + t("/caixa_anoReferencia.png"));
+                caixa->buttons().first()->click();
+            });
+            return ShowMessageBox(msg, estilo, titulo);
+        });
+        a.vaiParaAba(1);
+        InstalaManipuladorMsg(roteiro);
+        QVERIFY(texto.startsWith(t("Ano de referência inválido!\n\nO ano de referência deve ser maior ou igual a 2002")));
+        QVERIFY(tamanho.width() < a.janela.width() && tamanho.height() < a.janela.height());
+        QCOMPARE(a.abas()->currentIndex(), 0);
     }
 
     // The editors' page exists, shows its pictures, and the first page points to it.

@@ -236,6 +236,19 @@ private slots:
         QTRY_COMPARE(QApplication::focusWidget(), a.campo(QStringLiteral("txtDadosGeraisIndividual(2)")));
     }
 
+    // Leaving the issue date with a year out of the rule names the rule; the check at the tab change says only
+    // "Data inválida.".
+    void anoDaEmissaoForaDaRegraRecusadoAoSair()
+    {
+        Ambiente a;
+        a.novaIndividual();
+        a.msgs.responde(Msg::OK);
+        a.digita(QStringLiteral("mskDadosGeraisIndividual(0)"), QStringLiteral("10052001"));
+        a.sai(QStringLiteral("txtDadosGeraisIndividual(2)"));
+        QCOMPARE(a.msgs.textos(), QStringList{t("Ano da emissão inválido. Deve ser maior que 2002.")});
+        QTRY_COMPARE(QApplication::focusWidget(), a.campo(QStringLiteral("mskDadosGeraisIndividual(0)")));
+    }
+
     void serieEContaEmMaiusculasEUfMostraONome()
     {
         Ambiente a;

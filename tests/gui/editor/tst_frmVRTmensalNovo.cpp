@@ -4,6 +4,7 @@
 
 #include "gui/assistants/frmAssistenteVRT.h"
 #include "gui/editor/AbaDadosGerais.h"
+#include "gui/widgets/TextField.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -36,6 +37,77 @@ private slots:
         QVERIFY(a.janela.acao(QStringLiteral("mnuDeclaracaoFechar"))->isEnabled());
         QVERIFY(!a.janela.acao(QStringLiteral("mnuDeclaracaoAbrir"))->isEnabled());
         QCOMPARE(a.msgs.inesperadas, 0);
+    }
+
+    // Every grid of both editors, on every tab and document page: a column of figures (quantities, values,
+    // rates) stands right-aligned, a column of codes, names, masked numbers or dates left-aligned.
+    void numerosDasGradesAlinhadosADireita()
+    {
+        for (bool individual : {false, true}) {
+            Ambiente a;
+            if (individual) {
+                a.novaIndividual();
+                a.preencheIndividual();
+            } else {
+                a.novaMensal();
+                a.preencheMensal();
+            }
+            for (int aba = 1; aba <= 4; ++aba)
+                a.vaiParaAba(aba);
+            const QList<ConsultGrid*> grades = a.editor()->findChildren<ConsultGrid*>();
+            QVERIFY(grades.size() > 10);
+            const QStringList figuras = {QStringLiteral("Quantidade"), QStringLiteral("Valor"),
+                                         QStringLiteral("PIS/PASEP"), QStringLiteral("COFINS")};
+            int aDireita = 0;
+            for (ConsultGrid* g : grades)
+                for (int c = 0; c < g->columnCount(); ++c) {
+                    const QString titulo = g->titleText(c);
+                    if (g->isColumnHidden(c) || titulo.isEmpty())
+                        continue;
+                    const bool direita = g->columnAlignment(c) & Qt::AlignRight;
+                    QVERIFY2(direita == figuras.contains(titulo), qPrintable(g->objectName() + QLatin1Char('/') + titulo));
+                    aDireita += direita;
+                }
+            // Both values grids, and the quantity of every item and document grid.
+            QVERIFY(aDireita >= (individual ? 8 : 15));
+        }
+    }
+
+    // Every masked and digit field of the general data selects all of its text when it receives the focus, in both
+    // editors; free-text fields (the series) put the caret behind their text instead.
+    void camposDosDadosGeraisSelecionamTudoAoReceberOFoco()
+    {
+        for (bool individual : {false, true}) {
+            Ambiente a;
+            if (individual) {
+                a.novaIndividual();
+                a.preencheIndividual();
+            } else {
+                a.novaMensal();
+                a.preencheMensal();
+            }
+            a.campo<QLineEdit>(QStringLiteral("txtDadosGerais(1)"))->setText(QStringLiteral("001"));
+            a.campo<QLineEdit>(QStringLiteral("txtDadosGerais(2)"))->setText(QStringLiteral("1234"));
+            int vistos = 0;
+            for (QLineEdit* e : a.editor()->findChild<QWidget*>(QStringLiteral("tabDeclaracao(0)"))->findChildren<QLineEdit*>()) {
+                if (!e->isVisible() || !e->isEnabled() || e->text().isEmpty() || e->objectName().isEmpty()
+                    || qobject_cast<QComboBox*>(e->parentWidget()))
+                    continue;
+                a.campo(QStringLiteral("ChkMand_Retif(0)"))->setFocus(Qt::TabFocusReason);
+                QCoreApplication::processEvents();
+                e->setFocus(Qt::TabFocusReason);
+                QCoreApplication::processEvents();
+                if (qobject_cast<TextField*>(e)) {
+                    QTRY_VERIFY(e->selectedText().isEmpty());
+                    QCOMPARE(e->cursorPosition(), e->text().size());
+                    continue;
+                }
+                QTRY_COMPARE(e->selectedText(), e->displayText());
+                ++vistos;
+            }
+            QVERIFY(vistos >= (individual ? 9 : 5));
+            a.msgs.limpa();
+        }
     }
 
     void fecharNovaSemDigitarNaoPerguntaNemGrava()
@@ -150,6 +222,27 @@ private slots:
         a.salvar();
         QCOMPARE(a.comprometido(QStringLiteral("SELECT NR_BANCO_ARREC FROM VRT")).toString(), QString());
         QCOMPARE(a.msgs.caixas.size(), 0);
+    }
+
+    // A CNPJ counts as changed only once all its digits stand: a half-typed one is no change, and closing asks
+    // nothing and keeps the stored CNPJ; a whole other CNPJ is a change, and closing asks.
+    void cnpjPelaMetadeNaoContaComoMudanca()
+    {
+        Ambiente a;
+        a.novaMensal();
+        a.preencheMensal();
+        a.vaiParaAba(1);
+        a.salvar();
+        a.vaiParaAba(0);
+        a.campo<QLineEdit>(QStringLiteral("mskDadosGerais(1)"))->setText(QStringLiteral("1122"));
+        QVERIFY(!a.editor()->TestaDadosGerais());
+        a.campo<QLineEdit>(QStringLiteral("mskDadosGerais(1)"))->setText(QStringLiteral("33000167000101"));
+        QVERIFY(a.editor()->TestaDadosGerais());
+        a.campo<QLineEdit>(QStringLiteral("mskDadosGerais(1)"))->setText(QStringLiteral("1122"));
+        a.fechar();
+        QVERIFY(!a.editor());
+        QCOMPARE(a.msgs.caixas.size(), 0);
+        QCOMPARE(a.comprometido(QStringLiteral("SELECT NR_CNPJ_INTERNADOR FROM VRT")).toString(), Cnpj);
     }
 
     void bancoAlteradoSemTrocaDeAbaNaoEntraNoSalvar()
@@ -315,6 +408,17 @@ private slots:
         a.sai(QStringLiteral("txtDadosGerais(2)"));
         QCOMPARE(a.msgs.textos(), QStringList{QStringLiteral("Conta-Corrente inválida.")});
         QTRY_COMPARE(QApplication::focusWidget(), a.campo(QStringLiteral("txtDadosGerais(3)")));
+    }
+
+    void agenciaZeroRecusadaAoSair()
+    {
+        Ambiente a;
+        a.novaMensal();
+        a.msgs.responde(Msg::OK);
+        a.digita(QStringLiteral("txtDadosGerais(2)"), QStringLiteral("0000"));
+        a.sai(QStringLiteral("txtDadosGerais(3)"));
+        QCOMPARE(a.msgs.textos(), QStringList{QString::fromUtf8("Agência inválida.")});
+        QTRY_COMPARE(QApplication::focusWidget(), a.campo(QStringLiteral("txtDadosGerais(2)")));
     }
 
     void bancoZeroRecusadoAoSair()

@@ -383,6 +383,70 @@ private slots:
                                                 "processo o número do processo deve ser informado!")});
         QCOMPARE(a.abas()->currentIndex(), 0);
     }
+    // The number to rectify: the monthly editor names the number, the individual one the check digit, a zero
+    // number, and a number left with fewer than ten digits.
+    void numeroARetificarComOTextoDeCadaEditor()
+    {
+        QString ruim = numeroVrt();
+        ruim.back() = QChar(u'0' + (ruim.back().digitValue() + 1) % 10);
+        {
+            Ambiente a;
+            abreValores(a, 1);
+            a.msgs.responde(Msg::OK);
+            a.digita(QStringLiteral("mskDadosGerais(0)"), ruim);
+            QCOMPARE(a.msgs.textos(), QStringList{t("Número da VRT inválido.")});
+        }
+        Ambiente a;
+        a.novaIndividual();
+        a.preencheIndividual();
+        a.clica(QStringLiteral("ChkMand_Retif(1)"));
+        QCOMPARE(a.msgs.textos(), QStringList{});
+        a.msgs.responde(Msg::OK);
+        a.digita(QStringLiteral("mskDadosGerais(0)"), ruim);
+        QCOMPARE(a.msgs.textos(), QStringList{t("Dígito verificador inválido.")});
+        a.msgs.limpa();
+        a.msgs.responde(Msg::OK);
+        a.digita(QStringLiteral("mskDadosGerais(0)"), QStringLiteral("0000000000"));
+        QCOMPARE(a.msgs.textos(), QStringList{t("Número da VRT não pode ser zerado.")});
+        a.msgs.limpa();
+        a.digita(QStringLiteral("mskDadosGerais(0)"), QStringLiteral("09123"));
+        a.msgs.responde(Msg::OK);
+        a.sai(QStringLiteral("chkSimRest"));
+        QCOMPARE(a.msgs.textos(), QStringList{t("Número deve ter 10 dígitos.")});
+        QTRY_COMPARE(QApplication::focusWidget(), a.campo(QStringLiteral("mskDadosGerais(0)")));
+    }
+
+    // The monthly editor tests the process as soon as all its digits stand, with an exclamation mark; the
+    // individual one only when the field is left, and its text has none.
+    void processoZeradoRecusadoComOTextoDeCadaEditor()
+    {
+        const QString zeros(17, QLatin1Char('0'));
+        {
+            Ambiente a;
+            abreValores(a, 1);
+            a.digita(QStringLiteral("mskDadosGerais(0)"), numeroVrt());
+            a.clica(QStringLiteral("chkSimRest"));
+            a.msgs.responde(Msg::OK);
+            a.digita(QStringLiteral("mskDadosGerais(3)"), zeros);
+            QCOMPARE(a.msgs.textos(), QStringList{t("O número de processo não pode ser zero!")});
+        }
+        {
+            Ambiente a;
+            a.novaIndividual();
+            a.preencheIndividual();
+            a.clica(QStringLiteral("ChkMand_Retif(1)"));
+            QCOMPARE(a.msgs.textos(), QStringList{});
+            a.digita(QStringLiteral("mskDadosGerais(0)"), numeroVrt());
+            a.clica(QStringLiteral("chkSimRest"));
+            a.digita(QStringLiteral("mskDadosGerais(3)"), zeros);
+            QCOMPARE(a.msgs.textos(), QStringList{});
+            a.msgs.responde(Msg::OK);
+            a.sai(QStringLiteral("chkSimRest"));
+            QCOMPARE(a.msgs.textos(), QStringList{t("O número de processo não pode ser zero")});
+            QTRY_COMPARE(QApplication::focusWidget(), a.campo(QStringLiteral("mskDadosGerais(3)")));
+        }
+    }
+
     // Right after a load a click chooses nothing until the grid's current row has moved: the first row, current
     // since the load, does not answer a click; another row does, and from then on every click until the next load.
     void cliqueSoEscolheDepoisQueALinhaAtualMudou()
