@@ -45,6 +45,14 @@ QString numeroValido()
     return QString();
 }
 
+// The chooser in its copy action, shown, with Ok clicked on the first row: the copy panel comes up.
+void abrePainel(frmAssistenteVRT& tela)
+{
+    tela.FuncaoForm(frmAssistenteVRT::Copiar);
+    tela.show();
+    QTest::mouseClick(controle<QPushButton>(tela, "cmdOk"), Qt::LeftButton);
+}
+
 // What the screen showed at the moment of the success message.
 struct NoFim {
     QString andamento;
@@ -64,9 +72,7 @@ private slots:
         BancoTeste banco;
         CenariosGravacao::insereMensalCompleta(t("00012/09"));
         frmAssistenteVRT tela;
-        tela.FuncaoForm(frmAssistenteVRT::Copiar);
-        tela.show();
-        QTest::mouseClick(controle<QPushButton>(tela, "cmdOk"), Qt::LeftButton);
+        abrePainel(tela);
         auto* painel = controle<PainelCopiaVrt>(tela, "FraAssistenteVRT_Copia");
         QVERIFY(painel->isVisible());
         QVERIFY(!controle<QGroupBox>(tela, "fraAssistenteVRT")->isVisible());
@@ -85,9 +91,7 @@ private slots:
         BancoTeste banco;
         CenariosGravacao::insereMensalCompleta(t("00012/09"));
         frmAssistenteVRT tela;
-        tela.FuncaoForm(frmAssistenteVRT::Copiar);
-        tela.show();
-        QTest::mouseClick(controle<QPushButton>(tela, "cmdOk"), Qt::LeftButton);
+        abrePainel(tela);
         MensagensRoteiro msgs;
         msgs.responde(Msg::OK);
         QTest::mouseClick(controle<QPushButton>(tela, "cmdOKCopia"), Qt::LeftButton);
@@ -101,9 +105,7 @@ private slots:
         BancoTeste banco;
         CenariosGravacao::insereMensalCompleta(t("00012/09"));
         frmAssistenteVRT tela;
-        tela.FuncaoForm(frmAssistenteVRT::Copiar);
-        tela.show();
-        QTest::mouseClick(controle<QPushButton>(tela, "cmdOk"), Qt::LeftButton);
+        abrePainel(tela);
         QTest::mouseClick(controle<QRadioButton>(tela, "OptNormal"), Qt::LeftButton, {}, QPoint(6, 6));
         MensagensRoteiro msgs;
         msgs.responde(Msg::No);
@@ -121,9 +123,7 @@ private slots:
         CenariosGravacao::insereMensalCompleta(t("00012/09"));
         const QString nova = Funcoes::IdentificacaoPrevista();
         frmAssistenteVRT tela;
-        tela.FuncaoForm(frmAssistenteVRT::Copiar);
-        tela.show();
-        QTest::mouseClick(controle<QPushButton>(tela, "cmdOk"), Qt::LeftButton);
+        abrePainel(tela);
         QTest::mouseClick(controle<QRadioButton>(tela, "OptRetificacao"), Qt::LeftButton, {}, QPoint(6, 6));
         auto* numero = controle<MaskedField>(tela, "mskNumVRT");
         QVERIFY(numero->isEnabled());
@@ -174,9 +174,7 @@ private slots:
         CenariosGravacao::insereIndividualCompleta(t("00013/09"));
         const QString nova = Funcoes::IdentificacaoPrevista();
         frmAssistenteVRT tela;
-        tela.FuncaoForm(frmAssistenteVRT::Copiar);
-        tela.show();
-        QTest::mouseClick(controle<QPushButton>(tela, "cmdOk"), Qt::LeftButton);
+        abrePainel(tela);
         QTest::mouseClick(controle<QRadioButton>(tela, "OptNormal"), Qt::LeftButton, {}, QPoint(6, 6));
         MensagensRoteiro msgs;
         msgs.responde(Msg::Yes).responde(Msg::OK);
@@ -205,9 +203,7 @@ private slots:
         BancoTeste banco;
         CenariosGravacao::insereMensalCompleta(t("00012/09"));
         frmAssistenteVRT tela;
-        tela.FuncaoForm(frmAssistenteVRT::Copiar);
-        tela.show();
-        QTest::mouseClick(controle<QPushButton>(tela, "cmdOk"), Qt::LeftButton);
+        abrePainel(tela);
         QTest::mouseClick(controle<QRadioButton>(tela, "OptRetificacao"), Qt::LeftButton, {}, QPoint(6, 6));
         auto* campo = controle<MaskedField>(tela, "mskNumVRT");
         campo->setFocus();
@@ -228,9 +224,7 @@ private slots:
         BancoTeste banco;
         CenariosGravacao::insereMensalCompleta(t("00012/09"));
         frmAssistenteVRT tela;
-        tela.FuncaoForm(frmAssistenteVRT::Copiar);
-        tela.show();
-        QTest::mouseClick(controle<QPushButton>(tela, "cmdOk"), Qt::LeftButton);
+        abrePainel(tela);
         QTest::mouseClick(controle<QRadioButton>(tela, "OptNormal"), Qt::LeftButton, {}, QPoint(6, 6));
         MensagensRoteiro msgs;
         QTest::mouseClick(controle<QPushButton>(tela, "cmdCancelaCopia"), Qt::LeftButton);
@@ -259,9 +253,7 @@ private slots:
         if (!numerador.isEmpty())
             banco.executa(t("INSERT INTO ARQUIVO_NUMERADOR (NUM_ULTIMA_VRT, ANO) VALUES (%1)").arg(numerador));
         frmAssistenteVRT tela;
-        tela.FuncaoForm(frmAssistenteVRT::Copiar);
-        tela.show();
-        QTest::mouseClick(controle<QPushButton>(tela, "cmdOk"), Qt::LeftButton);
+        abrePainel(tela);
         const QString ano = QStringLiteral("%1").arg(QDate::currentDate().year() % 100, 2, 10, QLatin1Char('0'));
         QCOMPARE(controle<QLineEdit>(tela, "txtIdentificadorNovaVRT")->text(), numero + ano);
         QVERIFY(!controle<QLineEdit>(tela, "txtIdentificadorNovaVRT")->isEnabled());
@@ -275,9 +267,7 @@ private slots:
         BancoTeste banco;
         CenariosGravacao::insereMensalCompleta(t("00012/09"));
         frmAssistenteVRT tela;
-        tela.FuncaoForm(frmAssistenteVRT::Copiar);
-        tela.show();
-        QTest::mouseClick(controle<QPushButton>(tela, "cmdOk"), Qt::LeftButton);
+        abrePainel(tela);
         auto* numero = controle<MaskedField>(tela, "mskNumVRT");
         auto* retificadora = controle<QRadioButton>(tela, "OptRetificacao");
         auto* original = controle<QRadioButton>(tela, "OptNormal");
@@ -298,9 +288,7 @@ private slots:
         BancoTeste banco;
         CenariosGravacao::insereMensalCompleta(t("00012/09"));
         frmAssistenteVRT tela;
-        tela.FuncaoForm(frmAssistenteVRT::Copiar);
-        tela.show();
-        QTest::mouseClick(controle<QPushButton>(tela, "cmdOk"), Qt::LeftButton);
+        abrePainel(tela);
         auto* painel = controle<PainelCopiaVrt>(tela, "FraAssistenteVRT_Copia");
         QStringList rotulos;
         for (const QLabel* l : painel->findChildren<QLabel*>())
