@@ -30,6 +30,12 @@ QString sn(const QCheckBox* caixa)
     return caixa->isChecked() ? QStringLiteral("S") : QStringLiteral("N");
 }
 
+// A month of one digit takes a leading zero: in the field after its check, and in the stored reference.
+QString mesDeDoisDigitos(const QString& mes)
+{
+    return mes.size() == 1 ? QLatin1Char('0') + mes : mes;
+}
+
 void critica(const QString& texto)
 {
     MsgBox(texto, Msg::OKOnly | Msg::Critical);
@@ -238,7 +244,7 @@ bool AbaDadosGerais::ValidaMesReferencia()
     if (n < 1 || n > 12)
         return falha(QStringLiteral("Mês de referência invalido!"), mes);
     if (mes->text().size() == 1)
-        mes->setText(QLatin1Char('0') + mes->text());
+        mes->setText(mesDeDoisDigitos(mes->text()));
     return true;
 }
 
@@ -323,7 +329,8 @@ DadosGerais AbaDadosGerais::daTela() const
     if (m_individual)
         d.inscricao = mskInscricaoEstadual->text();
     else
-        d.referencia = txtDadosGeraisMensal[0]->text().trimmed() + txtDadosGeraisMensal[1]->text().trimmed();
+        d.referencia = mesDeDoisDigitos(txtDadosGeraisMensal[0]->text().trimmed())
+                       + txtDadosGeraisMensal[1]->text().trimmed();
     return d;
 }
 

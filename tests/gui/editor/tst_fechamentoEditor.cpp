@@ -29,6 +29,10 @@ private slots:
         QCOMPARE(a.msgs.textos(), QStringList{QStringLiteral("Deseja salvar a VRT?")});
         QCOMPARE(a.comprometido(QStringLiteral("SELECT NR_CNPJ_INTERNADOR FROM VRT")).toString(), Cnpj);
         QCOMPARE(a.comprometido(QStringLiteral("SELECT COUNT(*) FROM VRT_MENSAL")).toInt(), 1);
+        // The month of one digit is written with its leading zero although the rows are written before the
+        // check that pads the field: the reference is always two month digits and four year digits.
+        QCOMPARE(a.comprometido(QStringLiteral("SELECT DT_REFERENCIA_VRT FROM VRT_MENSAL")).toString(),
+                 QStringLiteral("032009"));
         QCOMPARE(a.msgs.inesperadas, 0);
     }
 };

@@ -91,7 +91,9 @@ bool VerificaArquivoVrt::verifica(QIODevice& dispositivo)
         problema(0, s("Erro - Arquivo sem registros!"));
         return true;
     }
-    if (!cabecalho.isEmpty()) {
+    // A head cut short by a failed read is not a file without its records: the read error alone is told.
+    const bool cabecaCortada = arquivo.falhou() && cabecalho.size() < 4;
+    if (!cabecalho.isEmpty() && !cabecaCortada) {
         verificaCabecalho(cabecalho);
         const TipoDeclaracao declaracao = cabecalho.at(0).mid(15, 1) == s("1") ? TipoDeclaracao::Individual
                                                                                : TipoDeclaracao::Mensal;

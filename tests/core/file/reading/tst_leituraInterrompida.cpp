@@ -4,6 +4,7 @@
 // the same bytes read from memory.
 #include "ArquivoTeste.h"
 #include "TestUtil.h"
+#include "core/file/checking/VerificaArquivoVrt.h"
 #include "core/file/layout/LinhasArquivo.h"
 #include "core/file/reading/LeArquivoVrt.h"
 
@@ -33,6 +34,34 @@ int linhasInteiras(const QByteArray& conteudo, qint64 tamanho)
 {
     return int(conteudo.left(tamanho).count('\n'));
 }
+// A file whose medium goes away after its lines were counted: the second pass gives `limite` bytes, then fails.
+class ArquivoQueFalha : public QFile {
+public:
+    ArquivoQueFalha(const QString& caminho, qint64 limite) : QFile(caminho), m_limite(limite) {}
+    bool seek(qint64 posicao) override
+    {
+        m_contado = true;
+        m_lidos = posicao;
+        return QFile::seek(posicao);
+    }
+
+protected:
+    qint64 readData(char* dados, qint64 maximo) override
+    {
+        if (!m_contado)
+            return QFile::readData(dados, maximo);
+        if (m_lidos >= m_limite)
+            return -1;
+        const qint64 n = QFile::readData(dados, std::min(maximo, m_limite - m_lidos));
+        m_lidos += std::max<qint64>(n, 0);
+        return n;
+    }
+
+private:
+    qint64 m_limite;
+    qint64 m_lidos = 0;
+    bool m_contado = false;
+};
 }  // namespace
 
 class TstLeituraInterrompida : public QObject {
@@ -101,6 +130,23 @@ private slots:
         QVERIFY(msgs.caixas.at(0).texto.endsWith(t("o arquivo foi alterado ou retirado durante a leitura!")));
         QCOMPARE(msgs.inesperadas, 0);
         QCOMPARE(retratoDoBanco(), antes);
+    }
+
+    // The checker reads the same way: a head cut by the failure is told as the read error alone, not as
+    // missing head records.
+    void verificacaoDeCabecaCortadaSoDizOErroDeLeitura()
+    {
+        const QByteArray conteudo = declaracaoLonga();
+        const QString caminho = m_pasta.filePath(t("verificado.vrt"));
+        grava(caminho, conteudo);
+        ArquivoQueFalha arquivo(caminho, conteudo.indexOf('\n') + 1 + 5);
+        VerificaArquivoVrt verificacao;
+        QVERIFY(verificacao.verifica(arquivo));
+        QStringList textos;
+        for (const ProblemaArquivo& p : verificacao.problemas())
+            textos << p.descricao;
+        QCOMPARE(textos, QStringList{t("Erro na leitura do arquivo ") + caminho +
+                                     t(" - o arquivo foi alterado ou retirado durante a leitura!")});
     }
 
     void linhasDadasAntesDoCorteSaoInteiras()
