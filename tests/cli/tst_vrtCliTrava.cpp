@@ -170,6 +170,23 @@ private slots:
         QCOMPARE(BancoTeste::conta(t("VRT")), 1);
         QVERIFY(!QFile::exists(trava()));
     }
+
+    void travaDeMortoComRemocaoVaziaETomada()
+    {
+        // A run killed while it took over a dead run's lock: the dead lock stays, and beside it the empty file
+        // of the removal it had just begun.
+        QVERIFY(iniciaPrograma());
+        paraPrograma();
+        QVERIFY(QFile::exists(trava()));
+        QFile remocao(trava() + t(".rmlock"));
+        QVERIFY(remocao.open(QIODevice::WriteOnly));
+        remocao.close();
+        const Execucao e = roda({t("importar"), declaracao()});
+        QCOMPARE(e.status, 0);
+        QCOMPARE(BancoTeste::conta(t("VRT")), 1);
+        QVERIFY(!QFile::exists(trava()));
+        QVERIFY(!QFile::exists(trava() + t(".rmlock")));
+    }
 };
 
 QTEST_GUILESS_MAIN(TstVrtCliTrava)

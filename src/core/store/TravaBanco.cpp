@@ -1,6 +1,7 @@
 #include "core/store/TravaBanco.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QThread>
 
@@ -20,25 +21,34 @@ bool TravaBanco::trava()
     if (QCoreApplication::instance())
         QCoreApplication::setApplicationName(QFileInfo(QCoreApplication::applicationFilePath()).fileName());
     bool travado = m_trava.tryLock(0);
-    if (!travado && vaziaDeMorto())
+    // Taking over a dead holder's lock goes through a second lock file, "<lock>.rmlock", that Qt holds while it
+    // removes the first. A process killed between creating that file and writing its number leaves it empty,
+    // and every later attempt gives up on it for half a minute: gone, when it stays empty.
+    const QString remocao = ArquivoTrava(m_arquivoBanco) + QStringLiteral(".rmlock");
+    if (!travado && vaziaDeMorto(remocao))
+        travado = QFile::remove(remocao) && m_trava.tryLock(0);
+    if (!travado && vaziaDeMorto(ArquivoTrava(m_arquivoBanco)))
         travado = m_trava.removeStaleLockFile() && m_trava.tryLock(0);
     QCoreApplication::setApplicationName(nome);
     return travado;
 }
 
-bool TravaBanco::vaziaDeMorto()
+bool TravaBanco::vaziaDeMorto(const QString& arquivo)
 {
-    // A process killed between creating the lock file and writing its number into it leaves a file that names
+    // A process killed between creating a lock file and writing its number into it leaves a file that names
     // nobody, which the lock would hold for ever. A live holder writes its number at once: a file still
     // unreadable a moment later was left by a dead one.
+    if (!QFileInfo::exists(arquivo))
+        return false;
+    const QLockFile trava(arquivo);
     qint64 pid = 0;
     QString maquina, aplicacao;
     for (int tentativa = 0; tentativa < 5; ++tentativa) {
-        if (m_trava.getLockInfo(&pid, &maquina, &aplicacao))
+        if (trava.getLockInfo(&pid, &maquina, &aplicacao))
             return false;
         QThread::msleep(100);
     }
-    return QFileInfo::exists(ArquivoTrava(m_arquivoBanco));
+    return QFileInfo::exists(arquivo);
 }
 
 QString TravaBanco::ArquivoTrava(const QString& arquivoBanco)

@@ -14,7 +14,7 @@ public:
     static QString ArquivoTrava(const QString& arquivoBanco);
 
 private:
-    bool vaziaDeMorto();
+    static bool vaziaDeMorto(const QString& arquivo);
 
     QString m_arquivoBanco;
     QLockFile m_trava;
