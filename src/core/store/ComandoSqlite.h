@@ -65,6 +65,11 @@ public:
     // The same as valor(coluna).toString(), without the QVariant.
     QString texto(int coluna) const;
     qint64 inteiro(int coluna) const;
+    // What a column of the current row holds, read in one look for code that keeps rows by the hundred thousand:
+    // an integer in `numero`, a text's UTF-8 in `texto` (valid until the next step), a NULL, or another type
+    // (a real or a blob, which only valor()/texto() tell as QSqlQuery would).
+    enum class Conteudo { Nulo, Inteiro, Texto, Outro };
+    Conteudo le(int coluna, QByteArrayView& texto, qint64& numero) const;
     // How many columns the statement gives.
     int colunas() const;
     // The name the engine gives a column of the result: its alias, else the column's own name.

@@ -1,12 +1,13 @@
 #pragma once
 // The entry documents of the inputs of a monthly declaration (records 34, 35, 36). They belong to the
 // declaration, an input and a destination, not to one product, so every product that uses the input writes
-// them again; they are read and composed once per declaration and looked up by input and destination.
+// them again; they are read once per declaration, looked up by input and destination, and composed as written.
 #include "core/file/writing/LinhaRegistro.h"
+#include "core/file/writing/LinhasGuardadas.h"
+#include "core/file/writing/MapaColunas.h"
 
 #include <QHash>
 #include <QString>
-#include <QVector>
 
 class SaidaVrt;
 
@@ -19,19 +20,25 @@ public:
     void escreve(SaidaVrt& saida, const QString& insumo, const QString& destino);
 
 private:
-    struct Di {
-        LinhaRegistro linha;
-        bool semAntiga = false;  // the old DI number is missing (Null or one blank)
+    // One kind of document: its rows, kept as read, composed into its record when written.
+    struct Tipo {
+        explicit Tipo(int tipo);
+        LinhasGuardadas linhas;
+        LinhaRegistro registro;
+        MapaColunas mapa;
+        LinhaRegistro& compoe(int linha);
+    };
+    // The rows of one input at one destination in each kind: [inicio, fim).
+    struct Faixa {
+        int inicio = 0, fim = 0;
     };
     struct Grupo {
-        QVector<LinhaRegistro> nfa;
-        QVector<Di> di;
-        QVector<LinhaRegistro> dsi;
+        Faixa nfa, di, dsi;
     };
     static QString chave(const QString& insumo, const QString& destino);
-    template <typename Poe>
-    void carrega(int tipo, const QString& sql, const QString& id, Poe poe);
+    void carrega(Tipo& tipo, Faixa Grupo::*faixa, const QString& sql, const QString& id);
 
+    Tipo m_nfa, m_di, m_dsi;
     QHash<QString, Grupo> m_grupos;
     // The old DI number of the last record 35 that had one: record 35 keeps it when its own is missing.
     QString m_diAntiga;

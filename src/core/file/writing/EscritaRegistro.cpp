@@ -59,15 +59,6 @@ RegistroComposto::RegistroComposto(const LayoutRegistro& layout, const ComandoSq
         m_doFilho = MapaColunas(layout, *filho);
 }
 
-LinhaRegistro& RegistroComposto::compoe(const ComandoSqlite& pai, const ComandoSqlite* filho)
-{
-    m_linha.limpa();
-    m_linha.preenche(pai, m_doPai);
-    if (filho)
-        m_linha.preenche(*filho, m_doFilho);
-    return m_linha;
-}
-
 RegistrosFilhos::RegistrosFilhos(const LayoutRegistro& layout, const QString& sql, const QVariantList& valores,
                                  AoCompor aoCompor)
     : m_cursor(sql, valores), m_linha(layout), m_mapa(layout, m_cursor.linha()), m_aoCompor(std::move(aoCompor))
@@ -81,6 +72,25 @@ void RegistrosFilhos::escreve(SaidaVrt& saida, qint64 pai)
         m_linha.preenche(m_cursor.linha(), m_mapa);
         if (m_aoCompor)
             m_aoCompor(m_linha, m_cursor.linha());
+        saida.escreve(m_linha);
+    }
+}
+
+RegistrosPorDestino::RegistrosPorDestino(const LayoutRegistro& layout, const QString& sql,
+                                         const QVariantList& valores, int primeiraDe, AoCompor aoCompor)
+    : m_filhos(sql, valores, primeiraDe), m_linha(layout), m_mapa(layout, m_filhos.consulta()),
+      m_aoCompor(std::move(aoCompor))
+{
+}
+
+void RegistrosPorDestino::escreve(SaidaVrt& saida, qint64 destino)
+{
+    for (const int k : m_filhos.de(destino)) {
+        m_linha.limpa();
+        const FilhosDoItem::Linha linha = m_filhos.linha(k);
+        m_linha.preenche(linha, m_mapa);
+        if (m_aoCompor)
+            m_aoCompor(m_linha, linha);
         saida.escreve(m_linha);
     }
 }

@@ -9,6 +9,7 @@
 // field empty. A NULL is an empty field. The record is then filled by LinhaRegistro::preenche; what no row
 // holds (a destination code, a run's working value) is put by the writer after it.
 #include "core/file/writing/CursorFilhos.h"
+#include "core/file/writing/FilhosDoItem.h"
 #include "core/file/writing/LinhaRegistro.h"
 #include "core/file/writing/MapaColunas.h"
 #include "core/file/writing/SaidaVrt.h"
@@ -49,9 +50,24 @@ QString colunas14(const NomesProduto& nomes);
 // input), which wins where both name a field.
 class RegistroComposto {
 public:
+    // `pai` and `filho` give the names of the columns: the statements whose rows the records are composed from.
     RegistroComposto(const LayoutRegistro& layout, const ComandoSqlite& pai, const ComandoSqlite* filho = nullptr);
-    // The record composed from the current rows, to be finished by the writer and written.
-    LinhaRegistro& compoe(const ComandoSqlite& pai, const ComandoSqlite* filho = nullptr);
+    // The record composed from the current rows (a statement's or one FilhosDoItem kept), to be finished by the
+    // writer and written.
+    template <typename Pai>
+    LinhaRegistro& compoe(const Pai& pai)
+    {
+        m_linha.limpa();
+        m_linha.preenche(pai, m_doPai);
+        return m_linha;
+    }
+    template <typename Pai, typename Filho>
+    LinhaRegistro& compoe(const Pai& pai, const Filho& filho)
+    {
+        compoe(pai);
+        m_linha.preenche(filho, m_doFilho);
+        return m_linha;
+    }
 
 private:
     LinhaRegistro m_linha;
@@ -70,6 +86,24 @@ public:
 
 private:
     CursorFilhos m_cursor;
+    LinhaRegistro m_linha;
+    MapaColunas m_mapa;
+    AoCompor m_aoCompor;
+};
+
+// The records of a child table under the destinations of one item at a time (FilhosDoItem, column 1 the
+// destination): one per row, every field from its column. `aoCompor`, when given, finishes each record from the
+// row just before it is written, in the order of the file.
+class RegistrosPorDestino {
+public:
+    using AoCompor = std::function<void(LinhaRegistro&, const FilhosDoItem::Linha&)>;
+    RegistrosPorDestino(const LayoutRegistro& layout, const QString& sql, const QVariantList& valores,
+                        int primeiraDe = -1, AoCompor aoCompor = AoCompor());
+    void carrega(qint64 item) { m_filhos.carrega(item); }
+    void escreve(SaidaVrt& saida, qint64 destino);
+
+private:
+    FilhosDoItem m_filhos;
     LinhaRegistro m_linha;
     MapaColunas m_mapa;
     AoCompor m_aoCompor;

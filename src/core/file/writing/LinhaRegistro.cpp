@@ -1,7 +1,5 @@
 #include "core/file/writing/LinhaRegistro.h"
 
-#include "core/file/writing/MapaColunas.h"
-#include "core/store/ComandoSqlite.h"
 
 #include <QHash>
 
@@ -226,13 +224,20 @@ void formataCampo(const CampoLayout& campo, Vista v, Saida& s)
     }
 }
 
+// Eight bytes at a time: a record's values are checked by the million.
 bool ascii(QByteArrayView v)
 {
-    for (const char c : v) {
-        if (static_cast<unsigned char>(c) >= 0x80)
-            return false;
+    const char* p = v.data();
+    qsizetype n = v.size();
+    quint64 altos = 0;
+    for (; n >= 8; p += 8, n -= 8) {
+        quint64 oito;
+        std::memcpy(&oito, p, 8);
+        altos |= oito;
     }
-    return true;
+    for (; n > 0; ++p, --n)
+        altos |= static_cast<unsigned char>(*p);
+    return (altos & 0x8080808080808080ULL) == 0;
 }
 
 }  // namespace
@@ -333,17 +338,6 @@ void LinhaRegistro::poeComoEsta(const QString& nome, const QString& texto)
 void LinhaRegistro::poeComoEsta(int indice, const QString& texto)
 {
     coloca(indice, texto);
-}
-
-void LinhaRegistro::preenche(const ComandoSqlite& linha, const MapaColunas& mapa)
-{
-    QByteArrayView v;
-    for (const MapaColunas::Par& p : mapa.pares()) {
-        if (linha.utf8(p.coluna, v))
-            poeUtf8(p.campo, v);
-        else
-            poe(p.campo, linha.texto(p.coluna));
-    }
 }
 
 QString LinhaRegistro::valor(const QString& nome) const

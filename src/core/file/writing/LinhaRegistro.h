@@ -14,14 +14,13 @@
 // engine gives where they are ASCII. A field of another width, or a character outside Latin-1, turns the record
 // into one text per field, composed as the old writer placed them (see compoeEm).
 #include "core/file/layout/LayoutRegistro.h"
+#include "core/file/writing/MapaColunas.h"
 
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
 #include <QVector>
 
-class ComandoSqlite;
-class MapaColunas;
 
 class LinhaRegistro {
 public:
@@ -33,8 +32,19 @@ public:
     // The text exactly as given: a text longer than the field pushes the next field to a new line.
     void poeComoEsta(const QString& nome, const QString& texto);
     void poeComoEsta(int indice, const QString& texto);
-    // Every field of `mapa` from its column of the statement's current row, as poe() of the column's text.
-    void preenche(const ComandoSqlite& linha, const MapaColunas& mapa);
+    // Every field of `mapa` from its column of the row, as poe() of the column's text. The row is a statement's
+    // current row (ComandoSqlite) or one kept after it moved on (FilhosDoItem::Linha).
+    template <typename Linha>
+    void preenche(const Linha& linha, const MapaColunas& mapa)
+    {
+        QByteArrayView v;
+        for (const MapaColunas::Par& p : mapa.pares()) {
+            if (linha.utf8(p.coluna, v))
+                poeUtf8(p.campo, v);
+            else
+                poe(p.campo, linha.texto(p.coluna));
+        }
+    }
     // As poe() of the text whose UTF-8 is `valor` (a null view is a null text).
     void poeUtf8(int indice, QByteArrayView valor);
     // Every field back to its empty form.

@@ -268,8 +268,8 @@ void EscritaIndividual::produtoSemPPB()
     const qint64 idItem = m_item.inteiro(ItId);
     for (; m_insumos.de(idItem); m_insumos.avanca()) {
         const ComandoSqlite& x = m_insumos.linha();
-        m_saida.escreve(m_r32.compoe(m_item, &x));
-        LinhaRegistro& r33 = m_r33.compoe(m_item, &x);
+        m_saida.escreve(m_r32.compoe(m_item, x));
+        LinhaRegistro& r33 = m_r33.compoe(m_item, x);
         r33.poe(total, m_totalInsumo.value(x.texto(Codigo)));
         r33.poe(local, m_cab.destino);
         m_saida.escreve(r33);

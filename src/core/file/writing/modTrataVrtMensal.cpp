@@ -1,7 +1,7 @@
 #include "core/file/writing/modTrataVrtMensal.h"
 
 #include "core/file/writing/CabecalhoVrt.h"
-#include "core/file/writing/CursorFilhos.h"
+#include "core/file/writing/FilhosDoItem.h"
 #include "core/store/ComandoSqlite.h"
 #include "core/file/writing/DocumentosInsumoMensal.h"
 #include "core/file/writing/EscritaRegistro.h"
@@ -35,7 +35,7 @@ const EscritaRegistro::NomesProduto& nomesProduto()
 
 // Columns of the item query that the writer reads itself; the others fill the records by their names.
 enum { ItId, ItModalidade, ItTipoCoef };
-// Columns of the destination query (0 is the item).
+// Columns of the destination query (0 is the item, 1 the destination's key).
 enum { DeItem, DeId, DeCodigo, DeQuantidade };
 
 // The destinations of an item without basic process: its record 31 has a pair per destination, and its inputs
@@ -65,11 +65,11 @@ private:
     const CabecalhoVrt& m_cab;
     SaidaVrt& m_saida;
     ComandoSqlite m_item;
-    CursorFilhos m_destinos;
+    FilhosDoItem m_destinos;
     RegistroComposto m_r11, m_r21, m_r31, m_r41;
-    EscritaRegistro::RegistrosFilhos m_nfa, m_di, m_dsi;
+    EscritaRegistro::RegistrosPorDestino m_nfa, m_di, m_dsi;
     // Prepared with the first item without basic process.
-    std::unique_ptr<CursorFilhos> m_insumos;
+    std::unique_ptr<FilhosDoItem> m_insumos;
     std::unique_ptr<RegistroComposto> m_r32, m_r33;
     std::unique_ptr<DocumentosInsumoMensal> m_docsInsumo;
     QHash<QString, QString> m_totalInsumo;        // INSUMO_VRT by input
@@ -93,6 +93,8 @@ QString sqlItem()
         "WHERE i.ID_VRT_MICRO = ? ORDER BY i.IND_MOD_INTERNACAO, i.ID_ITEM_VRT");
 }
 
+// The destinations of each item in the order of the destination index (code, then key); FilhosDoItem puts each
+// item's destinations in the order of their keys.
 QString sqlDestinos()
 {
     return QStringLiteral(
@@ -100,21 +102,26 @@ QString sqlDestinos()
         "d.VL_II_UNIT_DOLAR, d.PC_COEF_REDUCAO_II, d.NM_UNID_MED_DEST, d.VL_PIS, d.VL_COFINS "
         "FROM DESTINO_ITEM_VRT_MEN d JOIN ITEM_VRT_MEN i ON i.ID_ITEM_VRT = d.ID_ITEM_VRT "
         "WHERE i.ID_VRT_MICRO = ? AND i.IND_MOD_INTERNACAO IN ('1', '2', '3') "
-        "ORDER BY i.IND_MOD_INTERNACAO, i.ID_ITEM_VRT, d.ID_DEST_PRODUTO");
+        "ORDER BY i.IND_MOD_INTERNACAO, i.ID_ITEM_VRT, d.CD_LOCAL_DESTINO, d.ID_DEST_PRODUTO");
 }
 
-// The documents of the foreign products' destinations, in the destinations' order.
-QString sqlDocumentoPE(const QString& colunas, const QString& tabelas, const QString& chave)
+// The documents of the foreign products' destinations: the item, the destination, the document's key, then
+// `colunas`; in the order of the indexes, each destination's documents by their key (`ordem` breaks the ties of
+// a join).
+QString sqlDocumentoPE(const QString& colunas, const QString& tabelas, const QString& chave,
+                       const QString& ordem = QString())
 {
-    return QStringLiteral("SELECT x.ID_DEST_PRODUTO, ") + colunas + QStringLiteral(" FROM ") + tabelas
+    return QStringLiteral("SELECT i.ID_ITEM_VRT, x.ID_DEST_PRODUTO, x.") + chave + QStringLiteral(", ") + colunas
+           + QStringLiteral(" FROM ") + tabelas
            + QStringLiteral(" JOIN DESTINO_ITEM_VRT_MEN d ON d.ID_DEST_PRODUTO = x.ID_DEST_PRODUTO "
                             "JOIN ITEM_VRT_MEN i ON i.ID_ITEM_VRT = d.ID_ITEM_VRT WHERE i.ID_VRT_MICRO = ? "
-                            "AND i.IND_MOD_INTERNACAO = '1' ORDER BY i.ID_ITEM_VRT, d.ID_DEST_PRODUTO, x.")
-           + chave;
+                            "AND i.IND_MOD_INTERNACAO = '1' "
+                            "ORDER BY i.ID_ITEM_VRT, d.CD_LOCAL_DESTINO, d.ID_DEST_PRODUTO, x.")
+           + chave + ordem;
 }
 
-// IND_OBSOLE_RESIDUO in the DI query.
-constexpr int DiObsoleto = 6;
+// ID_ITEM_DI and IND_OBSOLE_RESIDUO in the DI query.
+enum { DiChave = 2, DiObsoleto = 8 };
 
 QString sqlDi()
 {
@@ -129,23 +136,22 @@ QString sqlDi()
             + EscritaRegistro::se(QStringLiteral("x.IND_OBSOLE_RESIDUO = 'S'"), QStringLiteral("m"),
                                   QStringLiteral("VL_TOT_PROD_OBSOLE"), QStringLiteral("VL_TOT_PROD_OBSOLE"))
             + QStringLiteral(", x.IND_SUSP_PIS_COFINS"),
-        QStringLiteral("ITEM_DI_PE_MEN x LEFT JOIN ITEM_IMPORT_288_PE_MEN m ON m.ID_ITEM_IMP_288 = "
-                       "(SELECT MIN(y.ID_ITEM_IMP_288) FROM ITEM_IMPORT_288_PE_MEN y "
-                       "WHERE y.ID_ITEM_DI = x.ID_ITEM_DI)"),
-        QStringLiteral("ID_ITEM_DI"));
+        // Every import row of the DI comes, the lowest key first: the writer keeps that one (DiChave).
+        QStringLiteral("ITEM_DI_PE_MEN x LEFT JOIN ITEM_IMPORT_288_PE_MEN m ON m.ID_ITEM_DI = x.ID_ITEM_DI"),
+        QStringLiteral("ID_ITEM_DI"), QStringLiteral(", m.ID_ITEM_IMP_288"));
 }
 
 EscritaMensal::EscritaMensal(const CabecalhoVrt& cabecalho, GravacaoVrt& run, SaidaVrt& saida)
     : m_cab(cabecalho), m_saida(saida), m_item(sqlItem()),
       m_destinos(sqlDestinos(), QVariantList{cabecalho.idVrtMicro}),
-      m_r11(layout(11), m_item, &m_destinos.linha()), m_r21(layout(21), m_item, &m_destinos.linha()),
+      m_r11(layout(11), m_item, &m_destinos.consulta()), m_r21(layout(21), m_item, &m_destinos.consulta()),
       m_r31(layout(31), m_item), m_r41(layout(41), m_item),
       m_nfa(layout(12),
             sqlDocumentoPE(EscritaRegistro::colunas12(nomesProduto()), QStringLiteral("ITEM_NFA_PE_MEN x"),
                            QStringLiteral("ID_ITEM_NFA")),
             QVariantList{cabecalho.idVrtMicro}),
-      m_di(layout(13), sqlDi(), QVariantList{cabecalho.idVrtMicro},
-           [&run](LinhaRegistro&, const ComandoSqlite& x) {
+      m_di(layout(13), sqlDi(), QVariantList{cabecalho.idVrtMicro}, DiChave,
+           [&run](LinhaRegistro&, const FilhosDoItem::Linha& x) {
                // The individual writer reads this working value later in the run.
                run.obsoleResiduoMensal = x.texto(DiObsoleto);
            }),
@@ -177,10 +183,14 @@ void EscritaMensal::escreveItens()
 
 void EscritaMensal::produtoEstrangeiro(qint64 item)
 {
+    m_destinos.carrega(item);
+    m_nfa.carrega(item);
+    m_di.carrega(item);
+    m_dsi.carrega(item);
     // A justification row fills both pairs of record 11; without one they stay blanks and zeros.
-    for (; m_destinos.de(item); m_destinos.avanca()) {
-        m_saida.escreve(m_r11.compoe(m_item, &m_destinos.linha()));
-        const qint64 destino = m_destinos.linha().inteiro(DeId);
+    for (int k = 0; k < m_destinos.quantas(); ++k) {
+        m_saida.escreve(m_r11.compoe(m_item, m_destinos.linha(k)));
+        const qint64 destino = m_destinos.chave(k);
         m_nfa.escreve(m_saida, destino);
         m_di.escreve(m_saida, destino);
         m_dsi.escreve(m_saida, destino);
@@ -193,8 +203,9 @@ void EscritaMensal::produtoComPPB(qint64 item)
     static const int coeficiente = layout(21).indice(QStringLiteral("PC_COEF_REDUCAO_II"));
     // The destination's II value and reduction coefficient belong to a DCR only.
     const bool dcr = m_item.texto(ItTipoCoef) == QLatin1String("2");
-    for (; m_destinos.de(item); m_destinos.avanca()) {
-        LinhaRegistro& r = m_r21.compoe(m_item, &m_destinos.linha());
+    m_destinos.carrega(item);
+    for (int k = 0; k < m_destinos.quantas(); ++k) {
+        LinhaRegistro& r = m_r21.compoe(m_item, m_destinos.linha(k));
         if (!dcr) {
             r.poe(vlII, QString());
             r.poe(coeficiente, QString());
@@ -207,8 +218,10 @@ void EscritaMensal::preparaInsumos()
 {
     const QString& id = m_cab.idVrtMicro;
     // Record 33 takes each justification pair only where its aliquot is there and is not one blank.
-    m_insumos = std::make_unique<CursorFilhos>(
-        QStringLiteral("SELECT s.ID_ITEM_VRT, s.CD_INT_INSUMO, s.CD_NCM_INSUMO, s.NM_INT_INSUMO, "
+    // Each item's inputs in the order of the item's index (order number, then key); FilhosDoItem puts them in the
+    // order of their keys.
+    m_insumos = std::make_unique<FilhosDoItem>(
+        QStringLiteral("SELECT s.ID_ITEM_VRT, s.ID_INSUMO_ITEM, s.CD_INT_INSUMO, s.CD_NCM_INSUMO, s.NM_INT_INSUMO, "
                        "s.NM_UNID_MED_INSUMO, s.QT_INSUMO_POR_PROD, "
                        "CASE WHEN NULLIF(j.ALIQ_II_DIF_TEC, ' ') IS NOT NULL THEN j.JUST_II_DIF_TEC END "
                        "AS JUST_II_DIF_TEC, NULLIF(j.ALIQ_II_DIF_TEC, ' ') AS ALIQ_II_DIF_TEC, "
@@ -217,10 +230,10 @@ void EscritaMensal::preparaInsumos()
                        "FROM INSUMO_ITEM_VRT_MEN s JOIN ITEM_VRT_MEN i ON i.ID_ITEM_VRT = s.ID_ITEM_VRT "
                        "LEFT JOIN JUST_DIF_ALIQ_INS_VRT_MEN j ON j.ID_INSUMO_ITEM = s.ID_INSUMO_ITEM "
                        "WHERE i.ID_VRT_MICRO = ? AND i.IND_MOD_INTERNACAO = '3' "
-                       "ORDER BY i.ID_ITEM_VRT, s.ID_INSUMO_ITEM"),
+                       "ORDER BY i.ID_ITEM_VRT, s.NR_ORDEM, s.ID_INSUMO_ITEM"),
         QVariantList{id});
-    m_r32 = std::make_unique<RegistroComposto>(layout(32), m_item, &m_insumos->linha());
-    m_r33 = std::make_unique<RegistroComposto>(layout(33), m_insumos->linha());
+    m_r32 = std::make_unique<RegistroComposto>(layout(32), m_item, &m_insumos->consulta());
+    m_r33 = std::make_unique<RegistroComposto>(layout(33), m_insumos->consulta());
     m_docsInsumo = std::make_unique<DocumentosInsumoMensal>(id);
 
     ComandoSqlite rs(QStringLiteral("SELECT CD_INT_INSUMO, QT_TOT_INS_EST FROM INSUMO_VRT WHERE ID_VRT_MICRO = ?"));
@@ -244,8 +257,9 @@ void EscritaMensal::produtoSemPPB(qint64 item)
         return v;
     }();
     QVector<Destino> destinos;
-    for (; m_destinos.de(item); m_destinos.avanca())
-        destinos.append({m_destinos.texto(DeCodigo), m_destinos.texto(DeQuantidade)});
+    m_destinos.carrega(item);
+    for (int k = 0; k < m_destinos.quantas(); ++k)
+        destinos.append({m_destinos.linha(k).texto(DeCodigo), m_destinos.linha(k).texto(DeQuantidade)});
     LinhaRegistro& r = m_r31.compoe(m_item);
     // One pair per destination code; a code without a row keeps its zeros.
     for (const Destino& d : destinos) {
@@ -258,14 +272,15 @@ void EscritaMensal::produtoSemPPB(qint64 item)
 
 void EscritaMensal::insumos(qint64 item, const QVector<Destino>& destinos)
 {
-    enum { Codigo = 1 };
+    enum { Codigo = 2 };
     static const int estoque = layout(33).indice(QStringLiteral("QT_TOT_INS_EST"));
     static const int local = layout(33).indice(QStringLiteral("CD_LOCAL_DESTINO"));
     static const int porLocal = layout(33).indice(QStringLiteral("QT_TOT_INS_POR_LOC"));
-    for (; m_insumos->de(item); m_insumos->avanca()) {
-        const ComandoSqlite& x = m_insumos->linha();
+    m_insumos->carrega(item);
+    for (int k = 0; k < m_insumos->quantas(); ++k) {
+        const FilhosDoItem::Linha x = m_insumos->linha(k);
         const QString codigo = x.texto(Codigo);
-        m_saida.escreve(m_r32->compoe(m_item, &x));
+        m_saida.escreve(m_r32->compoe(m_item, x));
 
         LinhaRegistro& base = m_r33->compoe(x);
         base.poe(estoque, m_totalInsumo.value(codigo));

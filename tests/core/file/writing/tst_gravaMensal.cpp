@@ -1,6 +1,7 @@
 #include "CenariosGravacao.h"
 #include "TestUtil.h"
 
+#include "core/file/layout/LayoutRegistro.h"
 #include "core/file/writing/GravaVrt.h"
 
 #include <QTemporaryDir>
@@ -24,6 +25,8 @@ private slots:
     void valorDecimalLongoDemaisQuebraALinha();
     void codigoDeSlotComparadoComoNumeroESegundaLinhaSubstitui();
     void pontoDeMilharFicaNosDigitosDoValor();
+    void destinosInsumosEDocumentosSaemNaOrdemEmQueForamFeitos();
+    void diComDuasLinhasDeImportacaoSaiUmaVezComAPrimeira();
 
 private:
     // Writes the declaration for transmission and gives its lines (split at CR LF).
@@ -40,6 +43,28 @@ namespace {
 QString Z(const QString& s, int n) { return QString(n - s.size(), u'0') + s; }
 QString B(const QString& s, int n) { return s + QString(n - s.size(), u' '); }
 QByteArray L(const QString& s) { return s.toLatin1(); }
+
+// The text of a field of a monthly record, by its name.
+QByteArray campo(const QByteArray& linha, const char* nome)
+{
+    const LayoutRegistro& l = LayoutRegistro::de(TipoDeclaracao::Mensal, linha.left(2).toInt());
+    const CampoLayout& c = l.campos.at(l.indice(QString::fromLatin1(nome)));
+    return linha.mid(c.posicao - 1, c.tamanho);
+}
+
+// The record types of the lines, each followed by `nome`'s value where the record has that field.
+QString tiposE(const QList<QByteArray>& linhas, const char* nome)
+{
+    QStringList r;
+    for (const QByteArray& l : linhas) {
+        if (l.size() < 2)
+            continue;
+        const LayoutRegistro& layout = LayoutRegistro::de(TipoDeclaracao::Mensal, l.left(2).toInt());
+        const bool tem = layout.indice(QString::fromLatin1(nome)) >= 0 && l.left(2).toInt() > 3;
+        r << QString::fromLatin1(l.left(2) + (tem ? ":" + campo(l, nome).trimmed() : QByteArray()));
+    }
+    return r.join(u' ');
+}
 }  // namespace
 
 QList<QByteArray> tst_gravaMensal::grava(const QString& id, QByteArray* bytes)
@@ -276,6 +301,79 @@ void tst_gravaMensal::pontoDeMilharFicaNosDigitosDoValor()
                                                    {"CD_TIPO_DIVER_RETIF", "2"}, {"VL_TOTAL_DIVER_RETIF", "1.234,56"}});
     const QList<QByteArray> l = grava(id);
     QCOMPARE(l.at(3).mid(29, 15), QByteArray("000000001.23456"));
+}
+
+void tst_gravaMensal::destinosInsumosEDocumentosSaemNaOrdemEmQueForamFeitos()
+{
+    BancoTeste banco;
+    const QString id = QStringLiteral("00001/09");
+    insereCabecalhoMensal(id);
+    const auto item = [&](const char* modalidade, const char* codigo) {
+        return insere(QStringLiteral("ITEM_VRT_MEN"),
+                      {{"ID_VRT_MICRO", id}, {"CD_INT_PRODUTO", codigo}, {"NM_INT_PRODUTO", "Produto"},
+                       {"CD_NCM_PRODUTO", "87120010"}, {"NM_UNID_MED_PROD", "UNIDADE"},
+                       {"IND_MOD_INTERNACAO", modalidade}});
+    };
+    const auto destino = [&](qint64 i, const char* codigo) {
+        return insere(QStringLiteral("DESTINO_ITEM_VRT_MEN"),
+                      {{"ID_ITEM_VRT", i}, {"CD_LOCAL_DESTINO", codigo}, {"QT_PROD_LOC_DEST", "1,00000"}});
+    };
+    // Each item's destinations made with the higher code first: the file follows the order they were made in,
+    // not the order of their codes.
+    const qint64 pe = item("1", "PE");
+    const qint64 pe3 = destino(pe, "3");
+    const qint64 pe1 = destino(pe, "1");
+    for (const auto& [d, nf] : {std::pair{pe1, "111"}, std::pair{pe3, "333"}, std::pair{pe1, "112"}})
+        insere(QStringLiteral("ITEM_NFA_PE_MEN"), {{"ID_DEST_PRODUTO", d}, {"NR_NF_AQUIS", nf},
+                                                   {"IND_DL_288_67", "N"}, {"IND_OBSOLE_RESIDUO", "N"}});
+    const qint64 ppb = item("2", "PPB");
+    destino(ppb, "4");
+    destino(ppb, "2");
+    // Inputs made with the higher order number first: they too go in the order they were made in.
+    const qint64 semPpb = item("3", "SEM");
+    destino(semPpb, "4");
+    destino(semPpb, "1");
+    const qint64 a = insere(QStringLiteral("INSUMO_ITEM_VRT_MEN"),
+                            {{"NR_ORDEM", 2}, {"ID_ITEM_VRT", semPpb}, {"CD_INT_INSUMO", "INS-A"},
+                             {"QT_INSUMO_POR_PROD", "1,00000"}});
+    insere(QStringLiteral("INSUMO_ITEM_VRT_MEN"), {{"NR_ORDEM", 1}, {"ID_ITEM_VRT", semPpb},
+                                                   {"CD_INT_INSUMO", "INS-B"}, {"QT_INSUMO_POR_PROD", "1,00000"}});
+    for (const auto& [local, nf] : {std::pair{"1", "501"}, std::pair{"4", "504"}, std::pair{"1", "502"}})
+        insere(QStringLiteral("ITEM_NFA_INS_MEN"), {{"ID_VRT_MICRO", id}, {"ID_INSUMO_ITEM", a},
+                                                    {"CD_INT_INSUMO", "INS-A"}, {"CD_LOCAL_DESTINO", local},
+                                                    {"NR_NF_AQUIS", nf}});
+    const QList<QByteArray> linhas = grava(id).mid(4);
+    QCOMPARE(tiposE(linhas, "CD_LOCAL_DESTINO"),
+             QStringLiteral("11:3 12 11:1 12 12 21:4 21:2 31 32 33:4 34:4 33:1 34:1 34:1 32 33:4 33:1"));
+    QCOMPARE(tiposE(linhas, "NR_NF_AQUIS"),
+             QStringLiteral("11 12:000333 11 12:000111 12:000112 21 21 31 32 33 34:000504 33 34:000501 "
+                            "34:000502 32 33 33"));
+    QCOMPARE(tiposE(linhas, "CD_INT_INSUMO"),
+             QStringLiteral("11 12 11 12 12 21 21 31 32:INS-A 33:INS-A 34:INS-A 33:INS-A 34:INS-A 34:INS-A "
+                            "32:INS-B 33:INS-B 33:INS-B"));
+}
+
+void tst_gravaMensal::diComDuasLinhasDeImportacaoSaiUmaVezComAPrimeira()
+{
+    BancoTeste banco;
+    const QString id = QStringLiteral("00001/09");
+    insereCabecalhoMensal(id);
+    const qint64 item = insere(QStringLiteral("ITEM_VRT_MEN"),
+                               {{"ID_VRT_MICRO", id}, {"CD_INT_PRODUTO", "PE"}, {"IND_MOD_INTERNACAO", "1"}});
+    const qint64 d = insere(QStringLiteral("DESTINO_ITEM_VRT_MEN"), {{"ID_ITEM_VRT", item}, {"CD_LOCAL_DESTINO", "1"}});
+    const auto di = [&](const char* numero, std::initializer_list<const char*> moedas) {
+        const qint64 k = insere(QStringLiteral("ITEM_DI_PE_MEN"),
+                                {{"ID_DEST_PRODUTO", d}, {"NR_DI", numero}, {"NR_DI_ANTIGA", "1"},
+                                 {"IND_DL_288_67", "S"}, {"IND_OBSOLE_RESIDUO", "N"}, {"IND_SUSP_PIS_COFINS", "N"}});
+        for (const char* moeda : moedas)
+            insere(QStringLiteral("ITEM_IMPORT_288_PE_MEN"), {{"ID_ITEM_DI", k}, {"CD_MOEDA_NEG", moeda}});
+    };
+    di("0811111111", {"978", "840"});
+    di("0822222222", {});  // no import row: empty values
+    di("0833333333", {"220"});
+    const QList<QByteArray> linhas = grava(id).mid(4);
+    QCOMPARE(tiposE(linhas, "NR_DI"), QStringLiteral("11 13:0811111111 13:0822222222 13:0833333333"));
+    QCOMPARE(tiposE(linhas, "CD_MOEDA_NEG"), QStringLiteral("11 13:978 13:000 13:220"));
 }
 
 QTEST_GUILESS_MAIN(tst_gravaMensal)
