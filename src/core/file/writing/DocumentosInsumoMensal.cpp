@@ -12,6 +12,9 @@ const LayoutRegistro& layout(int tipo)
 {
     return LayoutRegistro::de(TipoDeclaracao::Mensal, tipo);
 }
+
+// _SEM_ANTIGA in the DI query below.
+constexpr int DiSemAntiga = 4;
 }  // namespace
 
 DocumentosInsumoMensal::DocumentosInsumoMensal(const QString& id) : m_nfa(34), m_di(35), m_dsi(36)
@@ -52,11 +55,6 @@ DocumentosInsumoMensal::DocumentosInsumoMensal(const QString& id) : m_nfa(34), m
             id);
 }
 
-QString DocumentosInsumoMensal::chave(const QString& insumo, const QString& destino)
-{
-    return insumo + QChar(0x1F) + destino;
-}
-
 DocumentosInsumoMensal::Tipo::Tipo(int tipo) : registro(layout(tipo))
 {
 }
@@ -74,16 +72,17 @@ void DocumentosInsumoMensal::carrega(Tipo& tipo, Faixa Grupo::*faixa, const QStr
     tipo.mapa = MapaColunas(tipo.registro.layout(), rs);
     rs.abre({id});
     // The query's order puts the rows of one input at one destination together.
-    QString anterior;
+    QPair<QString, QString> anterior;
     Faixa* atual = nullptr;
     while (rs.proxima()) {
         const int k = tipo.linhas.guarda(rs);
         const LinhasGuardadas::Linha linha = tipo.linhas.linha(k);
-        const QString c = chave(linha.texto(0), linha.texto(1));
-        if (!atual || c != anterior) {
-            atual = &(m_grupos[c].*faixa);
+        QPair<QString, QString> chave{linha.texto(0), linha.texto(1)};
+        if (!atual || chave != anterior) {
+            atual = &(m_grupos[chave].*faixa);
+            Q_ASSERT(atual->fim == 0);  // each group's rows come together
             atual->inicio = k;
-            anterior = c;
+            anterior = std::move(chave);
         }
         atual->fim = k + 1;
     }
@@ -91,15 +90,14 @@ void DocumentosInsumoMensal::carrega(Tipo& tipo, Faixa Grupo::*faixa, const QStr
 
 void DocumentosInsumoMensal::escreve(SaidaVrt& saida, const QString& insumo, const QString& destino)
 {
-    enum { SemAntiga = 4 };  // _SEM_ANTIGA in the DI query
-    const auto it = m_grupos.constFind(chave(insumo, destino));
+    const auto it = m_grupos.constFind({insumo, destino});
     if (it == m_grupos.constEnd())
         return;
-    for (int k = it->nfa.inicio; k < it->nfa.fim; ++k)
+    for (const int k : it->nfa)
         saida.escreve(m_nfa.compoe(k));
-    for (int k = it->di.inicio; k < it->di.fim; ++k) {
+    for (const int k : it->di) {
         LinhaRegistro& r = m_di.compoe(k);
-        if (m_di.linhas.linha(k).texto(SemAntiga) != QLatin1String("S")) {
+        if (m_di.linhas.linha(k).texto(DiSemAntiga) != QLatin1String("S")) {
             m_diAntiga = r.valor(QStringLiteral("NR_DI_ANTIGA"));
             saida.escreve(r);
             continue;
@@ -110,6 +108,6 @@ void DocumentosInsumoMensal::escreve(SaidaVrt& saida, const QString& insumo, con
         r.poeComoEsta(QStringLiteral("NR_DI_ANTIGA"), m_diAntiga);
         saida.escreve(r);
     }
-    for (int k = it->dsi.inicio; k < it->dsi.fim; ++k)
+    for (const int k : it->dsi)
         saida.escreve(m_dsi.compoe(k));
 }

@@ -7,6 +7,7 @@
 #include "core/file/writing/MapaColunas.h"
 
 #include <QHash>
+#include <QPair>
 #include <QString>
 
 class SaidaVrt;
@@ -28,18 +29,15 @@ private:
         MapaColunas mapa;
         LinhaRegistro& compoe(int linha);
     };
-    // The rows of one input at one destination in each kind: [inicio, fim).
-    struct Faixa {
-        int inicio = 0, fim = 0;
-    };
+    // The rows of one input at one destination in each kind.
+    using Faixa = LinhasGuardadas::Faixa;
     struct Grupo {
         Faixa nfa, di, dsi;
     };
-    static QString chave(const QString& insumo, const QString& destino);
     void carrega(Tipo& tipo, Faixa Grupo::*faixa, const QString& sql, const QString& id);
 
     Tipo m_nfa, m_di, m_dsi;
-    QHash<QString, Grupo> m_grupos;
+    QHash<QPair<QString, QString>, Grupo> m_grupos;  // by input and destination
     // The old DI number of the last record 35 that had one: record 35 keeps it when its own is missing.
     QString m_diAntiga;
 };

@@ -22,18 +22,8 @@ class FilhosDoItem {
 public:
     using Linha = LinhasGuardadas::Linha;
 
-    // The indexes of the rows of one key, for a range-for.
-    struct Faixa {
-        int inicio = 0, fim = 0;
-        struct Iterador {
-            int k;
-            int operator*() const { return k; }
-            Iterador& operator++() { ++k; return *this; }
-            bool operator!=(const Iterador& o) const { return k != o.k; }
-        };
-        Iterador begin() const { return {inicio}; }
-        Iterador end() const { return {fim}; }
-    };
+    // Positions k of linha(k).
+    using Faixa = LinhasGuardadas::Faixa;
 
     FilhosDoItem(const QString& sql, const QVariantList& valores, int primeiraDe = -1);
 

@@ -1,6 +1,5 @@
 #include "core/file/writing/LinhaRegistro.h"
 
-
 #include <QHash>
 
 #include <cstring>

@@ -21,7 +21,6 @@
 #include <QString>
 #include <QVector>
 
-
 class LinhaRegistro {
 public:
     explicit LinhaRegistro(const LayoutRegistro& layout);

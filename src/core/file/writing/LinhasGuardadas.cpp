@@ -33,7 +33,7 @@ int LinhasGuardadas::guarda(const ComandoSqlite& rs)
             // A real or a blob: its text as the statement gives it.
             const QByteArray texto = rs.texto(c).toUtf8();
             m_dados.append(texto.constData(), size_t(texto.size()));
-            m_celulas.push_back({inicio, int(texto.size())});
+            m_celulas.push_back({inicio, texto.isNull() ? Nulo : int(texto.size())});
             break;
         }
         }
@@ -43,6 +43,7 @@ int LinhasGuardadas::guarda(const ComandoSqlite& rs)
 
 const LinhasGuardadas::Celula& LinhasGuardadas::Linha::celula(int coluna) const
 {
+    Q_ASSERT(m_linha < m_dono->quantas() && coluna < m_dono->m_colunas);
     return m_dono->m_celulas[size_t(m_linha * m_dono->m_colunas + coluna)];
 }
 

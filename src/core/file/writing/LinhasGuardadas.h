@@ -35,6 +35,23 @@ public:
         int m_linha;
     };
 
+    // Indexes of rows [inicio, fim), for a range-for.
+    struct Faixa {
+        int inicio = 0, fim = 0;
+        struct Iterador {
+            int k;
+            int operator*() const { return k; }
+            Iterador& operator++()
+            {
+                ++k;
+                return *this;
+            }
+            bool operator!=(const Iterador& o) const { return k != o.k; }
+        };
+        Iterador begin() const { return {inicio}; }
+        Iterador end() const { return {fim}; }
+    };
+
     // Keeps the statement's current row and gives its index.
     int guarda(const ComandoSqlite& rs);
     int quantas() const { return m_colunas ? int(m_celulas.size() / size_t(m_colunas)) : 0; }

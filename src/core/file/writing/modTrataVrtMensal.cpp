@@ -217,9 +217,9 @@ void EscritaMensal::produtoComPPB(qint64 item)
 void EscritaMensal::preparaInsumos()
 {
     const QString& id = m_cab.idVrtMicro;
-    // Record 33 takes each justification pair only where its aliquot is there and is not one blank.
     // Each item's inputs in the order of the item's index (order number, then key); FilhosDoItem puts them in the
-    // order of their keys.
+    // order of their keys. Record 33 takes each justification pair only where its aliquot is there and is not one
+    // blank.
     m_insumos = std::make_unique<FilhosDoItem>(
         QStringLiteral("SELECT s.ID_ITEM_VRT, s.ID_INSUMO_ITEM, s.CD_INT_INSUMO, s.CD_NCM_INSUMO, s.NM_INT_INSUMO, "
                        "s.NM_UNID_MED_INSUMO, s.QT_INSUMO_POR_PROD, "
