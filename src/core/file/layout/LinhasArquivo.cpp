@@ -1,4 +1,5 @@
 #include "core/file/layout/LinhasArquivo.h"
+#include "core/file/layout/BytesAscii.h"
 
 #include <QFile>
 
@@ -133,8 +134,8 @@ QString LinhasArquivo::proxima()
     const QByteArrayView bytes(m_dados.constData() + m_posicao, tamanho);
     // Windows-1252 is Latin-1 but for the bytes 0x80 to 0x9F: a line without them needs no code page table.
     const auto foraDoLatin1 = [](char b) { return (uchar(b) & 0xE0) == 0x80; };
-    const QString linha = std::any_of(bytes.begin(), bytes.end(), foraDoLatin1) ? m_decodificador.decode(bytes)
-                                                                                 : QString::fromLatin1(bytes);
+    const bool latin1 = soAscii(bytes) || std::none_of(bytes.begin(), bytes.end(), foraDoLatin1);
+    const QString linha = latin1 ? QString::fromLatin1(bytes) : m_decodificador.decode(bytes);
     m_posicao = proximo;
     m_busca = proximo;
     preparaLinha();

@@ -1,4 +1,5 @@
 #include "core/file/writing/LinhaRegistro.h"
+#include "core/file/layout/BytesAscii.h"
 
 #include <QHash>
 
@@ -223,27 +224,11 @@ void formataCampo(const CampoLayout& campo, Vista v, Saida& s)
     }
 }
 
-// Eight bytes at a time: a record's values are checked by the million.
-bool ascii(QByteArrayView v)
-{
-    const char* p = v.data();
-    qsizetype n = v.size();
-    quint64 altos = 0;
-    for (; n >= 8; p += 8, n -= 8) {
-        quint64 oito;
-        std::memcpy(&oito, p, 8);
-        altos |= oito;
-    }
-    for (; n > 0; ++p, --n)
-        altos |= static_cast<unsigned char>(*p);
-    return (altos & 0x8080808080808080ULL) == 0;
-}
-
 }  // namespace
 
 bool LinhaRegistro::formataAscii(const CampoLayout& campo, QByteArrayView valor, QByteArray& saida)
 {
-    if (!ascii(valor))
+    if (!soAscii(valor))
         return false;
     saida.resize(0);
     SaidaBytes s{saida};
@@ -296,7 +281,7 @@ void LinhaRegistro::coloca(int indice, const QString& texto)
 void LinhaRegistro::poeUtf8(int indice, QByteArrayView valor)
 {
     const CampoLayout& c = m_layout->campos.at(indice);
-    if (!ascii(valor)) {
+    if (!soAscii(valor)) {
         coloca(indice, formata(c, QString::fromUtf8(valor)));
         return;
     }
