@@ -106,9 +106,11 @@ void ComandoSqlite::liga(int posicao, const QVariant& v)
 
 void ComandoSqlite::ligaTexto(int posicao, QStringView texto)
 {
-    // UTF-8 by hand into a buffer whose capacity stays from run to run: nearly every text here is ASCII.
+    // UTF-8 by hand into a buffer that only ever grows, so that a run binds without allocating or resizing:
+    // nearly every text here is ASCII.
     QByteArray& b = m_textos[posicao];
-    b.resize(texto.size() * 3);
+    if (b.size() < texto.size() * 3 + 1)
+        b.resize(texto.size() * 3 + 1);
     char* d = b.data();
     bool temNulo = false;
     for (qsizetype i = 0; i < texto.size(); ++i) {
@@ -121,21 +123,19 @@ void ComandoSqlite::ligaTexto(int posicao, QStringView texto)
             *d++ = char(0x80 | (u & 0x3F));
         } else if (QChar::isSurrogate(u)) {
             b = texto.toUtf8();
-            d = b.data() + b.size();
-            break;
+            sqlite3_bind_text(m_stmt, posicao + 1, b.constData(), int(b.size()), SQLITE_STATIC);
+            return;
         } else {
             *d++ = char(0xE0 | (u >> 12));
             *d++ = char(0x80 | ((u >> 6) & 0x3F));
             *d++ = char(0x80 | (u & 0x3F));
         }
     }
-    b.resize(d - b.data());
-    // A QByteArray keeps a NUL after its last byte. Told so (a length of -1), the engine marks the text as ended
-    // and does not copy it to end it when a CHECK(length(...)) of the schema reads it, which every text column
-    // of a declaration's tables has: that copy was a tenth of a reading. A text with a NUL of its own keeps
-    // its length.
-    sqlite3_bind_text(m_stmt, posicao + 1, b.isEmpty() ? "" : b.constData(), temNulo ? int(b.size()) : -1,
-                      SQLITE_STATIC);
+    *d = '\0';
+    // Told that the text ends at that NUL (a length of -1), the engine marks it as ended and does not copy it to
+    // end it when a CHECK(length(...)) of the schema reads it, which every text column of a declaration's tables
+    // has: that copy was a tenth of a reading. A text with a NUL of its own keeps its length.
+    sqlite3_bind_text(m_stmt, posicao + 1, b.constData(), temNulo ? int(d - b.constData()) : -1, SQLITE_STATIC);
 }
 
 void ComandoSqlite::inicia()
