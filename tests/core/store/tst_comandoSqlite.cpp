@@ -18,6 +18,8 @@ private slots:
     void recusaDaOCodigoEATextoDoQSqlQuery();
     void ultimaChaveEAdaLinhaInserida();
     void mesmaTransacaoDaConexaoDaSessao();
+    void textosLigadosUmAUmVoltamIguais();
+    void leDizOConteudoDeCadaColuna();
 };
 
 void tst_comandoSqlite::valoresLidosComoOsDoQSqlQuery()
@@ -113,6 +115,56 @@ void tst_comandoSqlite::mesmaTransacaoDaConexaoDaSessao()
     QCOMPARE(ValorUnico(QStringLiteral("SELECT COUNT(*) FROM M")).toInt(), 1);
     DesfazTransacao();
     QCOMPARE(ValorUnico(QStringLiteral("SELECT COUNT(*) FROM M")).toInt(), 0);
+}
+
+void tst_comandoSqlite::textosLigadosUmAUmVoltamIguais()
+{
+    BancoTeste banco;
+    ExecutaSql(QStringLiteral("CREATE TABLE L (V)"));
+    // One position bound again and again: a long text, then shorter ones, so that each reuses the buffer of
+    // the one before; two- and three-byte characters, a character beyond 16 bits, a NUL of its own, nothing.
+    const QStringList textos{QStringLiteral("Uma descrição bem comprida de produto"), QStringLiteral("XY"),
+                             QStringLiteral("Preço € 10"), QStringLiteral("\U0001D11E clave"),
+                             QString(QStringLiteral("A\0B")), QStringLiteral(""), QStringLiteral("Z")};
+    ComandoSqlite insere(QStringLiteral("INSERT INTO L (V) VALUES (?)"));
+    for (const QString& t : textos) {
+        insere.inicia();
+        insere.ligaTexto(0, t);
+        QVERIFY(insere.executa());
+    }
+    ComandoSqlite le(QStringLiteral("SELECT V, typeof(V) FROM L ORDER BY rowid"));
+    le.abre({});
+    QStringList lidos;
+    while (le.proxima()) {
+        QCOMPARE(le.texto(1), QStringLiteral("text"));
+        lidos << le.texto(0);
+    }
+    QCOMPARE(lidos, textos);
+}
+
+void tst_comandoSqlite::leDizOConteudoDeCadaColuna()
+{
+    BancoTeste banco;
+    using Conteudo = ComandoSqlite::Conteudo;
+    ComandoSqlite c(QStringLiteral("SELECT NULL, 42, 'Açúcar', '', 1.5, x'00ff'"));
+    c.abre({});
+    QVERIFY(c.proxima());
+    QByteArrayView texto;
+    qint64 numero = 0;
+    QCOMPARE(c.le(0, texto, numero), Conteudo::Nulo);
+    QCOMPARE(c.le(1, texto, numero), Conteudo::Inteiro);
+    QCOMPARE(numero, 42);
+    QCOMPARE(c.le(2, texto, numero), Conteudo::Texto);
+    QCOMPARE(QString::fromUtf8(texto), QStringLiteral("Açúcar"));
+    QCOMPARE(c.le(3, texto, numero), Conteudo::Texto);
+    QVERIFY(texto.isEmpty() && !texto.isNull());
+    QCOMPARE(c.le(4, texto, numero), Conteudo::Outro);
+    QCOMPARE(c.le(5, texto, numero), Conteudo::Outro);
+    // utf8() gives an integer's digits and a null view for NULL, and leaves reals and blobs to texto().
+    QVERIFY(c.utf8(0, texto) && texto.isNull());
+    QVERIFY(c.utf8(1, texto) && texto == "42");
+    QVERIFY(c.utf8(2, texto) && QString::fromUtf8(texto) == QStringLiteral("Açúcar"));
+    QVERIFY(!c.utf8(4, texto));
 }
 
 QTEST_GUILESS_MAIN(tst_comandoSqlite)
