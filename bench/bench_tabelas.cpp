@@ -5,7 +5,8 @@
 // Beside each load into an empty table, the floor: the sqlite3 shell's `.import` of the same rows (taken from the
 // table the import filled, as CSV) into the same table of another copy of the database, emptied alike. Skipped,
 // with a line that says so, when the shell is not installed.
-// Prints the figures; never fails on time.
+// Both sides of each comparison run three times, each on an empty table with the disk caught up, and the best
+// run is printed, as the machine is shared. Prints the figures; never fails on time.
 #include "core/lookups/ListaDeclaracoes.h"
 #include "core/refdata/modImportacao.h"
 #include "core/session/MsgBox.h"
@@ -20,6 +21,8 @@
 #include <QStringEncoder>
 #include <QTemporaryDir>
 #include <cstdio>
+#include <functional>
+#include <unistd.h>
 
 namespace {
 
@@ -38,6 +41,21 @@ void grava(const QString& caminho, const QStringList& linhas)
     for (const QString& l : linhas)
         bytes += QByteArray(cp1252.encode(l)) + "\r\n";
     f.write(bytes);
+}
+
+// The best of three runs of `vez`, each after `prepara` (not timed) and with the disk caught up.
+qint64 melhorDeTres(const std::function<void()>& prepara, const std::function<qint64()>& vez)
+{
+    qint64 melhor = -1;
+    for (int i = 0; i < 3; ++i) {
+        prepara();
+        ::sync();
+        const qint64 ms = vez();
+        if (ms < 0)
+            return -1;
+        melhor = melhor < 0 ? ms : qMin(melhor, ms);
+    }
+    return melhor;
 }
 
 qint64 importa(const QString& pasta, const QString& nome)
@@ -78,16 +96,46 @@ qint64 importacaoDoShell(const QString& banco, const QString& vazio, const QStri
 {
     const QString csv = pasta + QLatin1Char('/') + tabela + QStringLiteral(".csv");
     const QString copia = pasta + QLatin1Char('/') + tabela + QStringLiteral("-shell.mdb");
-    QFile::remove(copia);
-    if (!QFile::copy(vazio, copia) ||
-        !shell({banco, QStringLiteral(".mode csv"), QStringLiteral(".output ") + csv,
+    if (!shell({banco, QStringLiteral(".mode csv"), QStringLiteral(".output ") + csv,
                 QStringLiteral("SELECT * FROM ") + tabela + QLatin1Char(';')}))
         return -1;
-    QElapsedTimer relogio;
-    relogio.start();
-    if (!shell({copia, QStringLiteral(".mode csv"), QStringLiteral(".import ") + csv + QLatin1Char(' ') + tabela}))
-        return -1;
-    return relogio.elapsed();
+    return melhorDeTres(
+        [&] {
+            QFile::remove(copia);
+            QFile::copy(vazio, copia);
+        },
+        [&]() -> qint64 {
+            QElapsedTimer relogio;
+            relogio.start();
+            if (!shell({copia, QStringLiteral(".mode csv"),
+                        QStringLiteral(".import ") + csv + QLatin1Char(' ') + tabela}))
+                return -1;
+            return relogio.elapsed();
+        });
+}
+
+// The session on `banco` made again from `vazio`, as the imports and the shell's loads both find it.
+void conectaNaVazia(const QString& banco, const QString& vazio)
+{
+    modBancoDados::DesconectaBanco();
+    QFile::remove(banco);
+    if (!QFile::copy(vazio, banco))
+        qFatal("cópia do banco vazio falhou");
+    QFile(banco).setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    modBancoDados::ConectaBanco(banco);
+    modVRTPLN::ArquivoImportaTabela = QStringLiteral("SIM");
+}
+
+// The import of `arquivo` into the emptied database, best of three.
+qint64 importaNaVazia(const QString& pasta, const QString& arquivo, const QString& banco, const QString& vazio)
+{
+    return melhorDeTres([&] { conectaNaVazia(banco, vazio); }, [&] { return importa(pasta, arquivo); });
+}
+
+void confere(const QString& tabela, int linhas)
+{
+    if (modBancoDados::ValorUnico(QStringLiteral("SELECT COUNT(*) FROM ") + tabela).toInt() != linhas)
+        qFatal("contagem errada em %s depois da importação", qPrintable(tabela));
 }
 
 QString razao(qint64 ms, qint64 piso)
@@ -118,8 +166,8 @@ int main(int argc, char** argv)
     modBancoDados::ConectaBanco(banco);
     modBancoDados::ExecutaSql(QStringLiteral("DELETE FROM NCM_ITEM"));
     modBancoDados::ExecutaSql(QStringLiteral("DELETE FROM PRODUTO"));
-    modVRTPLN::ArquivoImportaTabela = QStringLiteral("SIM");
-    // The database as the imports find it, for the shell's loads.
+    // The database as the imports find it, for the imports and the shell's loads alike.
+    modBancoDados::DesconectaBanco();
     const QString vazio = pasta.filePath(QStringLiteral("vazio.mdb"));
     QFile::copy(banco, vazio);
     const bool comShell = temShell();
@@ -146,15 +194,14 @@ int main(int argc, char** argv)
     grava(pasta.filePath(QStringLiteral("produtos.txt")), produtos);
 
     std::printf("Importação de tabelas (uma transação por arquivo)\n");
-    const qint64 ncmVazia = importa(pasta.path(), QStringLiteral("ncm.txt"));
+    const qint64 ncmVazia = importaNaVazia(pasta.path(), QStringLiteral("ncm.txt"), banco, vazio);
     mostra("NCM, tabela vazia", nNcm, ncmVazia, razao(ncmVazia, piso("NCM_ITEM")));
     mostra("NCM, de novo (toda linha altera)", nNcm, importa(pasta.path(), QStringLiteral("ncm.txt")));
-    const qint64 produtosVazia = importa(pasta.path(), QStringLiteral("produtos.txt"));
+    confere(QStringLiteral("NCM_ITEM"), nNcm);
+    const qint64 produtosVazia = importaNaVazia(pasta.path(), QStringLiteral("produtos.txt"), banco, vazio);
     mostra("produtos, tabela vazia", nProdutos, produtosVazia, razao(produtosVazia, piso("PRODUTO")));
     mostra("produtos, de novo (toda linha altera)", nProdutos, importa(pasta.path(), QStringLiteral("produtos.txt")));
-    if (modBancoDados::ValorUnico(QStringLiteral("SELECT COUNT(*) FROM PRODUTO")).toInt() != nProdutos
-        || modBancoDados::ValorUnico(QStringLiteral("SELECT COUNT(*) FROM NCM_ITEM")).toInt() != nNcm)
-        qFatal("contagem errada depois da importação");
+    confere(QStringLiteral("PRODUTO"), nProdutos);
 
     const int nVrt = 5000;
     {
