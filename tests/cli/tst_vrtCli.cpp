@@ -24,7 +24,7 @@ class TstVrtCli : public QObject {
     Q_OBJECT
 
 private:
-    BancoTeste* m_banco = nullptr;
+    std::optional<BancoDeLeitura> m_banco;
     Execucao roda(QStringList argumentos, bool comBanco = true)
     {
         if (comBanco)
@@ -45,16 +45,8 @@ private:
     QStringList declaracao() { return cabecalhoMensal() + QStringList{r41(t("P4"), t("Caneca D'Ávila “€”"), t("UN"))}; }
 
 private slots:
-    void init()
-    {
-        m_banco = new BancoTeste;
-        cadastraNcmsDosRegistros();
-    }
-    void cleanup()
-    {
-        delete m_banco;
-        m_banco = nullptr;
-    }
+    void init() { m_banco.emplace(); }
+    void cleanup() { m_banco.reset(); }
 
     void ajudaEmPortugues()
     {

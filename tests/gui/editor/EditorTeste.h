@@ -156,6 +156,18 @@ struct Ambiente {
         uf->setCurrentIndex(uf->findText(QStringLiteral("AM")));
     }
 
+    // A new declaration of either kind with its general data (or invoice) filled.
+    void novaPreenchida(bool individual)
+    {
+        if (individual) {
+            novaIndividual();
+            preencheIndividual();
+        } else {
+            novaMensal();
+            preencheMensal();
+        }
+    }
+
     // A value row through the block's own buttons.
     void incluiValor(int i, const QString& modalidade, const QString& descricao, const QString& valor)
     {

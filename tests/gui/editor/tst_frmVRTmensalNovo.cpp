@@ -45,13 +45,7 @@ private slots:
     {
         for (bool individual : {false, true}) {
             Ambiente a;
-            if (individual) {
-                a.novaIndividual();
-                a.preencheIndividual();
-            } else {
-                a.novaMensal();
-                a.preencheMensal();
-            }
+            a.novaPreenchida(individual);
             for (int aba = 1; aba <= 4; ++aba)
                 a.vaiParaAba(aba);
             const QList<ConsultGrid*> grades = a.editor()->findChildren<ConsultGrid*>();
@@ -79,13 +73,7 @@ private slots:
     {
         for (bool individual : {false, true}) {
             Ambiente a;
-            if (individual) {
-                a.novaIndividual();
-                a.preencheIndividual();
-            } else {
-                a.novaMensal();
-                a.preencheMensal();
-            }
+            a.novaPreenchida(individual);
             a.campo<QLineEdit>(QStringLiteral("txtDadosGerais(1)"))->setText(QStringLiteral("001"));
             a.campo<QLineEdit>(QStringLiteral("txtDadosGerais(2)"))->setText(QStringLiteral("1234"));
             int vistos = 0;

@@ -49,13 +49,7 @@ inline void digitaTaxas(Ambiente& a, bool individual, const QString& ii, const Q
 inline void naAbaProduto(Ambiente& a, bool individual)
 {
     cadastraProdutos();
-    if (individual) {
-        a.novaIndividual();
-        a.preencheIndividual();
-    } else {
-        a.novaMensal();
-        a.preencheMensal();
-    }
+    a.novaPreenchida(individual);
     a.vaiParaAba(1);
 }
 

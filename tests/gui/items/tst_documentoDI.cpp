@@ -398,13 +398,7 @@ private slots:
         QFETCH(bool, individual);
         QFETCH(QString, mensagem);
         Ambiente a;
-        if (individual) {
-            a.novaIndividual();
-            a.preencheIndividual();
-        } else {
-            a.novaMensal();
-            a.preencheMensal();
-        }
+        a.novaPreenchida(individual);
         a.vaiParaAba(1);
         a.msgs.responde(Msg::OK);
         abaPE(a)->tabProdutoEstrangeiro->setCurrentIndex(1);

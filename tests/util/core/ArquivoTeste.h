@@ -12,6 +12,7 @@
 #include <QStringList>
 #include <QSqlQuery>
 #include <QSqlRecord>
+#include <optional>
 
 #include "core/file/reading/LeArquivoVrt.h"
 #include "core/store/modBancoDados.h"
@@ -253,7 +254,6 @@ inline QString r41(const QString& codigo, const QString& nome, const QString& un
         .poe(171, QStringLiteral("00000000070000"));
 }
 
-// Every row of every table, in the order of their keys: two equal dumps mean the database is exactly as it was.
 // The NCM codes the composed item records use, registered as the reader requires.
 inline void cadastraNcmsDosRegistros()
 {
@@ -263,6 +263,13 @@ inline void cadastraNcmsDosRegistros()
                                        "('39269090', 'Outras obras de plástico', 'KG')"));
 }
 
+// A test database with those NCM codes: the reader tests make one per test function
+// (`std::optional<BancoDeLeitura> m_banco`, `init() { m_banco.emplace(); }`, `cleanup() { m_banco.reset(); }`).
+struct BancoDeLeitura : BancoTeste {
+    BancoDeLeitura() { cadastraNcmsDosRegistros(); }
+};
+
+// Every row of every table, in the order of their keys: two equal dumps mean the database is exactly as it was.
 inline QStringList retratoDoBanco()
 {
     QStringList r;

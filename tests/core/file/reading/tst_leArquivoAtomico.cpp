@@ -19,7 +19,7 @@ class TstLeArquivoAtomico : public QObject {
     Q_OBJECT
 
 private:
-    BancoTeste* m_banco = nullptr;
+    std::optional<BancoDeLeitura> m_banco;
     bool le(const QStringList& linhas)
     {
         return leDaMemoria(bytes(linhas));
@@ -34,16 +34,8 @@ private:
     }
 
 private slots:
-    void init()
-    {
-        m_banco = new BancoTeste;
-        cadastraNcmsDosRegistros();
-    }
-    void cleanup()
-    {
-        delete m_banco;
-        m_banco = nullptr;
-    }
+    void init() { m_banco.emplace(); }
+    void cleanup() { m_banco.reset(); }
 
     void substituirRespondidoSimGuardaAIdentificacao()
     {

@@ -21,7 +21,7 @@ class TstLeArquivoRecusado : public QObject {
     Q_OBJECT
 
 private:
-    BancoTeste* m_banco = nullptr;
+    std::optional<BancoDeLeitura> m_banco;
     bool le(const QByteArray& conteudo)
     {
         grava(m_banco->pasta() + t("/arquivo"), conteudo);
@@ -29,16 +29,8 @@ private:
     }
 
 private slots:
-    void init()
-    {
-        m_banco = new BancoTeste;
-        cadastraNcmsDosRegistros();
-    }
-    void cleanup()
-    {
-        delete m_banco;
-        m_banco = nullptr;
-    }
+    void init() { m_banco.emplace(); }
+    void cleanup() { m_banco.reset(); }
 
     void registroSemPai_data()
     {

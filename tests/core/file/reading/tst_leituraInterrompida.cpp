@@ -68,20 +68,12 @@ class TstLeituraInterrompida : public QObject {
     Q_OBJECT
 
 private:
-    BancoTeste* m_banco = nullptr;
+    std::optional<BancoDeLeitura> m_banco;
     QTemporaryDir m_pasta;
 
 private slots:
-    void init()
-    {
-        m_banco = new BancoTeste;
-        cadastraNcmsDosRegistros();
-    }
-    void cleanup()
-    {
-        delete m_banco;
-        m_banco = nullptr;
-    }
+    void init() { m_banco.emplace(); }
+    void cleanup() { m_banco.reset(); }
 
     void arquivoEncurtadoDuranteALeituraNaoDeixaNada()
     {
