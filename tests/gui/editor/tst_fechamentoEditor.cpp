@@ -19,6 +19,7 @@ private slots:
         QVERIFY(a.editor());
         QCOMPARE(a.msgs.textos(), (QStringList{QStringLiteral("Deseja salvar a VRT?"),
                                                QStringLiteral("O campo mês de referência deve ser preenchido.")}));
+        QCOMPARE(a.msgs.caixas.at(1).estilo, Msg::OKOnly | Msg::Critical);
         a.msgs.limpa();
         a.digita(QStringLiteral("txtDadosGeraisMensal(0)"), QStringLiteral("3"));
         a.digita(QStringLiteral("txtDadosGeraisMensal(1)"), QStringLiteral("2009"));

@@ -182,21 +182,6 @@ private slots:
         QCOMPARE(a.msgs.inesperadas, 0);
     }
 
-    void simComDadosInvalidosNaoFechaEMostraARegra()
-    {
-        Ambiente a;
-        a.novaMensal();
-        a.digita(QStringLiteral("mskDadosGerais(1)"), Cnpj);
-        a.sai(QStringLiteral("txtDadosGerais(1)"));
-        a.msgs.responde(Msg::Yes).responde(Msg::OK);
-        a.fechar();
-        QVERIFY(a.editor());
-        QCOMPARE(a.msgs.textos(), (QStringList{QStringLiteral("Deseja salvar a VRT?"),
-                                               QStringLiteral("O campo mês de referência deve ser preenchido.")}));
-        QCOMPARE(a.msgs.caixas.at(1).estilo, Msg::OKOnly | Msg::Critical);
-        QCOMPARE(a.msgs.inesperadas, 0);
-    }
-
     void salvarDuasVezesASegundaNadaFaz()
     {
         Ambiente a;
@@ -398,26 +383,30 @@ private slots:
         QTRY_COMPARE(QApplication::focusWidget(), a.campo(QStringLiteral("txtDadosGerais(3)")));
     }
 
-    void agenciaZeroRecusadaAoSair()
+    void zerosRecusadosAoSair_data()
     {
-        Ambiente a;
-        a.novaMensal();
-        a.msgs.responde(Msg::OK);
-        a.digita(QStringLiteral("txtDadosGerais(2)"), QStringLiteral("0000"));
-        a.sai(QStringLiteral("txtDadosGerais(3)"));
-        QCOMPARE(a.msgs.textos(), QStringList{QString::fromUtf8("Agência inválida.")});
-        QTRY_COMPARE(QApplication::focusWidget(), a.campo(QStringLiteral("txtDadosGerais(2)")));
+        QTest::addColumn<QString>("campo");
+        QTest::addColumn<QString>("zeros");
+        QTest::addColumn<QString>("proximo");
+        QTest::addColumn<QString>("mensagem");
+        QTest::newRow("agência") << QStringLiteral("txtDadosGerais(2)") << QStringLiteral("0000")
+                                 << QStringLiteral("txtDadosGerais(3)") << QString::fromUtf8("Agência inválida.");
+        QTest::newRow("banco") << QStringLiteral("txtDadosGerais(1)") << QStringLiteral("000")
+                               << QStringLiteral("txtDadosGerais(2)") << QStringLiteral("Banco inválido.");
     }
-
-    void bancoZeroRecusadoAoSair()
+    void zerosRecusadosAoSair()
     {
+        QFETCH(QString, campo);
+        QFETCH(QString, zeros);
+        QFETCH(QString, proximo);
+        QFETCH(QString, mensagem);
         Ambiente a;
         a.novaMensal();
         a.msgs.responde(Msg::OK);
-        a.digita(QStringLiteral("txtDadosGerais(1)"), QStringLiteral("000"));
-        a.sai(QStringLiteral("txtDadosGerais(2)"));
-        QCOMPARE(a.msgs.textos(), QStringList{QStringLiteral("Banco inválido.")});
-        QTRY_COMPARE(QApplication::focusWidget(), a.campo(QStringLiteral("txtDadosGerais(1)")));
+        a.digita(campo, zeros);
+        a.sai(proximo);
+        QCOMPARE(a.msgs.textos(), QStringList{mensagem});
+        QTRY_COMPARE(QApplication::focusWidget(), a.campo(campo));
     }
 
     void abrirPeloEscolhedorMostraOsCamposComoGravadosEFecharNadaPergunta()
